@@ -1,0 +1,52 @@
+package tav.kob;
+
+import java.io.PrintStream;
+import java.util.Arrays;
+import tav.kob.base.ExitCode;
+import tav.kob.base.Failure;
+import tav.kob.base.TextEncoding;
+import tav.kob.certificate.CertificateArguments;
+import tav.kob.certificate.CertificateMaker;
+import tav.kob.command.ArgumentCursor;
+import tav.kob.command.PackageArguments;
+
+/** One run of the tool. Success says nothing at all: the caller takes any output for a warning. */
+public final class Tool {
+    private Tool() {
+    }
+
+    public static int run(String[] arguments, PrintStream output) {
+        try {
+            runCommand(new ArgumentCursor(Arrays.asList(arguments)));
+            return ExitCode.SUCCESS;
+        } catch (Failure failure) {
+            output.println(failure.getMessage());
+            return failure.exitCode();
+        } catch (TextEncoding.NameNotReadable unreadable) {
+            throw unreadable;
+        } catch (Exception | OutOfMemoryError | StackOverflowError unexpected) {
+            output.println("unexpected error: " + unexpected);
+            return ExitCode.UNEXPECTED;
+        }
+    }
+
+    private static void runCommand(ArgumentCursor arguments) throws Exception {
+        if (!arguments.hasNext()) {
+            throw Failure.usage("a command is missing");
+        }
+        String command = arguments.next();
+        switch (command) {
+            case "-package":
+                Packager.run(PackageArguments.readPackage(arguments));
+                break;
+            case "-prepare":
+                Packager.run(PackageArguments.readPrepare(arguments));
+                break;
+            case "-certificate":
+                CertificateMaker.run(CertificateArguments.read(arguments));
+                break;
+            default:
+                throw Failure.usage("unknown command " + command);
+        }
+    }
+}

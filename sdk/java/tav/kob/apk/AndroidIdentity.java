@@ -1,0 +1,35 @@
+package tav.kob.apk;
+
+import java.util.regex.Pattern;
+import tav.kob.base.Failure;
+import tav.kob.descriptor.Descriptor;
+
+/** Package name and version code, which Android asks for in forms of its own. */
+final class AndroidIdentity {
+    private static final String PREFIX = "tav.";
+    private static final Pattern PACKAGE_NAME = Pattern.compile("[A-Za-z][A-Za-z0-9]*(\\.[A-Za-z][A-Za-z0-9]*)+");
+    private static final int PART_LIMIT = 1000;
+    private static final int PARTS = 3;
+
+    private AndroidIdentity() {
+    }
+
+    /** Android wants two parts at least, and each must begin with a letter. */
+    static String packageName(Descriptor descriptor) throws Failure {
+        String id = descriptor.id();
+        String name = id.contains(".") ? id : PREFIX + id;
+        if (!PACKAGE_NAME.matcher(name).matches()) {
+            throw descriptor.invalidValue("application.id");
+        }
+        return name;
+    }
+
+    static int versionCode(String versionNumber) {
+        String[] parts = versionNumber.split("\\.");
+        int code = 0;
+        for (int index = 0; index < PARTS; index++) {
+            code = code * PART_LIMIT + (index < parts.length ? Integer.parseInt(parts[index]) : 0);
+        }
+        return code;
+    }
+}
