@@ -1,0 +1,18 @@
+// The live services of this system, each defined in the file of its name.
+#pragma once
+
+namespace qutav {
+
+class Files;
+class Folders;
+class Language;
+class Processes;
+class Registry;
+
+Files& SystemFiles();
+Folders& SystemFolders();
+Language& SystemLanguage();
+Processes& SystemProcesses();
+Registry& SystemRegistry();
+
+}  // namespace qutav

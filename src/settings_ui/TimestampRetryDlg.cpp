@@ -1,0 +1,29 @@
+#include "settings_ui/TimestampRetryDlg.h"
+
+#include "settings_ui/DialogTexts.h"
+
+namespace qutav {
+
+CTimestampRetryDlg::CTimestampRetryDlg(WindowHandle parent)
+    : CDialog(u"CTimestampRetryDlg", texts::kTimestampTitle, parent) {
+  AddControl(
+      ControlKind::kText,
+      u"There was an error connecting to the timestamp server. You may not have a connection "
+      u"to the network, or the server itself may have a problem.",
+      texts::kTimestampError);
+  AddControl(
+      ControlKind::kText,
+      u"If you choose to disable timestamping, the TAV application will fail to install when "
+      u"the digital certificate expires.",
+      texts::kTimestampConsequence);
+  AddControl(ControlKind::kButton, u"Disable Timestamping", texts::kTimestampDisable).onClick =
+      [this] { EndDialog(kDisableTimestamping); };
+  AddControl(ControlKind::kButton, u"Retry", texts::kTimestampRetry).onClick = [this] {
+    EndDialog(kRetry);
+  };
+  AddControl(ControlKind::kButton, u"Cancel", texts::kTimestampCancel).onClick = [this] {
+    OnCancel();
+  };
+}
+
+}  // namespace qutav

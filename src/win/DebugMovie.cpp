@@ -1,0 +1,41 @@
+#include "win/DebugMovie.h"
+
+#include "packaging/DescriptorGenerator.h"
+#include "platform/Services.h"
+#include "win/DocumentChecks.h"
+#include "win/DocumentContext.h"
+#include "win/DocumentPaths.h"
+#include "win/HostScript.h"
+#include "win/LaunchCall.h"
+#include "win/SettingsKeys.h"
+#include "win/SettingsMap.h"
+#include "win/SimulatorController.h"
+
+namespace qutav {
+namespace {
+
+bool ProvideDescriptor(const HostCallContext& call) {
+  if (TheServices().files->Exists(DocumentPaths.DescriptorPath)) return true;
+  if (!DocumentWasMoved(call)) return GenerateDefaultDescriptor() != 0;
+  RelocateDescriptor(call, DocumentPaths.MovieFolder, DocumentPaths.MovieBaseName);
+  SettingsSet(keys::kDocumentPath, DocumentPaths.DocumentPath.Text());
+  return true;
+}
+
+}  // namespace
+
+std::int32_t RunDebugMovie(const HostCallContext& call, const HostValue* arguments) {
+  KillDebugLaunchers();
+  if (!PrepareDocumentContext(call, arguments[0], arguments[1], arguments[2])) return 1;
+  const CommandProfileText profile = HostText(call, arguments[3]);
+  if (!ProvideDescriptor(call)) return 0;
+  UpdateExtensionIds();
+  if (!OpenDescriptor()) return 1;
+  const HostLaunch launch = BuildLaunchCall(call, profile, true);
+  std::int32_t answer = 0;
+  const std::int32_t status = EvaluateLaunch(call, launch, answer);
+  if (answer != 0 && !launch.controller.empty()) KillSimulatorController(launch.controllerProcess);
+  return status;
+}
+
+}  // namespace qutav

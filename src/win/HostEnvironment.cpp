@@ -1,0 +1,8 @@
+#include "win/HostEnvironment.h"
+
+namespace qutav {
+
+HostTable HostEnvironment;
+HostCallContext HostContext;
+
+}  // namespace qutav
