@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace qutav::host {
+
+/// The running executable.
+std::filesystem::path ExecutableFile();
+
+/// Sets a variable of this process's environment, which the library and its children see.
+void SetEnvironment(const std::string& name, const std::string& value);
+
+void ClearEnvironment(const std::string& name);
+
+/// Whether this process may open the file for reading. A pipe counts, a folder does not.
+bool IsReadableFile(const std::filesystem::path& file);
+
+}  // namespace qutav::host

@@ -1,0 +1,29 @@
+#include "host/PublishRecord.h"
+
+#include <string>
+
+namespace qutav::host {
+namespace {
+
+bool Has(const nlohmann::json& event, const char* member, const char* text) {
+  const auto found = event.find(member);
+  return found != event.end() && found->is_string() && found->get<std::string>() == text;
+}
+
+}  // namespace
+
+void PublishRecord::Take(const nlohmann::json& event) {
+  empty_ = false;
+  const bool ofProgress = Has(event, "class", kProgressDialogClass);
+  if (Has(event, "event", "dialog") && ofProgress) {
+    packagingStarted_ = true;
+    packagingCancelled_ = false;
+  }
+  if (Has(event, "event", "closed") && ofProgress) {
+    packagingCancelled_ = Has(event, "answer", "Cancel");
+  }
+  if (Has(event, "event", "sheet")) sheetOpened_ = true;
+  if (Has(event, "event", "pressed") && Has(event, "button", "Publish")) publishPressed_ = true;
+}
+
+}  // namespace qutav::host

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+namespace qutav::host {
+
+/// The class of the dialog that stands while the packaging tool runs.
+inline constexpr const char* kProgressDialogClass = "CProgressDlg";
+
+/// What a transcript tells about one publish run.
+class PublishRecord {
+ public:
+  void Take(const nlohmann::json& event);
+
+  /// The packaging tool was started and not stopped by the user in its last attempt.
+  bool PackagingEnded() const { return packagingStarted_ && !packagingCancelled_; }
+
+  /// The settings sheet opened, which means that signing material was missing, and nobody
+  /// pressed its Publish button.
+  bool SheetWasLeft() const { return sheetOpened_ && !publishPressed_; }
+
+  /// Nothing was shown at all.
+  bool IsEmpty() const { return empty_; }
+
+  bool SheetOpened() const { return sheetOpened_; }
+
+ private:
+  bool empty_ = true;
+  bool packagingStarted_ = false;
+  bool packagingCancelled_ = false;
+  bool sheetOpened_ = false;
+  bool publishPressed_ = false;
+};
+
+}  // namespace qutav::host

@@ -1,0 +1,37 @@
+#include "host/SigningAnswers.h"
+
+#include "host/NativePath.h"
+
+namespace qutav::host {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct SigningKeys {
+  const char* certificate;
+  const char* password;
+};
+
+constexpr SigningKeys kAndroidKeys = {"com.tav.moresh.certpath", "com.tav.moresh.certpwd"};
+constexpr SigningKeys kIosKeys = {"com.tav.moresh.ipacertpath", "com.tav.moresh.ipacertpwd"};
+constexpr const char* kProvisioningKey = "com.tav.moresh.ipaprovision";
+
+Json ReferenceTo(const PasswordReference& password) {
+  const bool inFile = password.kind == PasswordReference::Kind::kFile;
+  return Json{{inFile ? "file" : "environment", password.place}};
+}
+
+}  // namespace
+
+Json SigningAnswers(const SigningMaterial& material, bool forIos) {
+  const SigningKeys& keys = forIos ? kIosKeys : kAndroidKeys;
+  Json settings = {{keys.certificate, ToSettingsForm(material.certificate)},
+                   {keys.password, ReferenceTo(material.password)}};
+  if (forIos && !material.provisioningProfile.empty()) {
+    settings[kProvisioningKey] = ToSettingsForm(material.provisioningProfile);
+  }
+  Json sheet = {{"to", "sheet"}, {"settings", settings}, {"press", {"Publish", "Cancel"}}};
+  return Json{{"answers", Json::array({sheet})}};
+}
+
+}  // namespace qutav::host

@@ -1,0 +1,45 @@
+#include <exception>
+#include <iostream>
+#include <variant>
+
+#include "host/CommandLine.h"
+#include "host/Console.h"
+#include "host/EvaluateCommand.h"
+#include "host/ExitCodes.h"
+#include "host/PublishCommand.h"
+#include "host/Refusal.h"
+#include "host/Terminal.h"
+
+namespace qutav::host {
+namespace {
+
+int Run(const CommandRequest& request, Console& console) {
+  if (const auto* publish = std::get_if<PublishOptions>(&request)) {
+    return RunPublish(*publish, console);
+  }
+  if (const auto* evaluate = std::get_if<EvaluateOptions>(&request)) {
+    return RunEvaluate(*evaluate, console);
+  }
+  return std::get<ExitRequest>(request).exitCode;
+}
+
+int RunReported(const CommandRequest& request, Console& console) {
+  try {
+    return Run(request, console);
+  } catch (const Refusal& refusal) {
+    console.Message(refusal.what());
+    return kRefused;
+  } catch (const std::exception& error) {
+    console.Message(error.what());
+    return kNotDone;
+  }
+}
+
+}  // namespace
+}  // namespace qutav::host
+
+int main(int count, char** arguments) {
+  using namespace qutav::host;
+  Console console(std::cout, std::cerr, StandardErrorIsTerminal());
+  return RunReported(ParseCommandLine(count, arguments, std::cout, std::cerr), console);
+}

@@ -1,0 +1,24 @@
+#include <gtest/gtest.h>
+
+#include "host/ConnectedDevices.h"
+
+namespace qutav::host {
+namespace {
+
+TEST(ConnectedDevicesTest, FirstDeviceOfThePlatformIsSelected) {
+  ConnectedDevices devices;
+  devices.Update(u"android", u"emulator-5554:R58M:");
+  EXPECT_EQ(devices.Selected(u"android"), u"emulator-5554");
+  EXPECT_EQ(devices.Selected(u"ios"), std::nullopt);
+}
+
+TEST(ConnectedDevicesTest, NoDeviceIsSelectedFromAnEmptyList) {
+  ConnectedDevices devices;
+  EXPECT_EQ(devices.Selected(u"android"), std::nullopt);
+  devices.Update(u"android", u"a:");
+  devices.Update(u"android", u"");
+  EXPECT_EQ(devices.Selected(u"android"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace qutav::host
