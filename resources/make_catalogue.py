@@ -32,8 +32,8 @@ def unit_count(text):
 
 def read_texts(path):
     """The translated texts of a file by id; an untranslated one falls back to English."""
-    texts = {int(entry.msgctxt): entry.msgstr for entry in polib.pofile(path) if entry.msgstr}
-    return sorted(texts.items())
+    entries = polib.pofile(path).translated_entries()
+    return sorted((int(entry.msgctxt), entry.msgstr) for entry in entries)
 
 
 def marked(texts):

@@ -7,11 +7,11 @@
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/HandlerBase.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
-#include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
 #include "descriptor/DomSearch.h"
 #include "descriptor/FileInput.h"
+#include "descriptor/GuardedParser.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 
@@ -29,12 +29,6 @@ constexpr char kExceptionLine[] = "Exception message is: %s\n";
 
 void Print(const char* format, const XMLCh* message) {
   std::printf(format, ToLocalCodePage(TextOrEmpty(message)).c_str());
-}
-
-// Entities that expand without end are refused like any other malformed text.
-xercesc::SecurityManager& ExpansionLimit() {
-  static xercesc::SecurityManager manager;
-  return manager;
 }
 
 void AskForLayout(DOMConfiguration& configuration) {
@@ -94,7 +88,7 @@ int DescriptorDocument::InitParser() {
     return 1;
   }
   try {
-    parser_ = new XercesDOMParser(nullptr, XMLPlatformUtils::fgMemoryManager, nullptr);
+    parser_ = new GuardedParser();
   } catch (const XMLException& exception) {
     Print("Error during creating parser! :%s\n", exception.getMessage());
     return 2;
@@ -104,13 +98,13 @@ int DescriptorDocument::InitParser() {
   parser_->setIncludeIgnorableWhitespace(false);
   parser_->setDoNamespaces(false);
   parser_->setDoSchema(false);
-  parser_->setSecurityManager(&ExpansionLimit());
   errorHandler_ = std::make_unique<xercesc::HandlerBase>();
   parser_->setErrorHandler(errorHandler_.get());
   return 0;
 }
 
 bool DescriptorDocument::Parse(const std::u16string& path) {
+  if (parser_ == nullptr) return false;  // it could not be made, which was told then
   try {
     const FileInput source(path);
     parser_->setIncludeIgnorableWhitespace(false);

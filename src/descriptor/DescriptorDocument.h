@@ -4,8 +4,8 @@
 // Results are small integers: 0 for done, -1 for no parser, 1 for no document, 2 for no root
 // element, and what each operation tells beyond that. No accessor shows a message.
 //
-// Names are narrow ASCII. Values are UTF-16, or, where a parameter is a `std::string`, the local
-// code page, which loses what it lacks.
+// Names are in the local code page. Values are UTF-16, or, where a parameter is a `std::string`,
+// the local code page too, which loses what it lacks.
 #pragma once
 
 #include <memory>

@@ -25,8 +25,6 @@ std::vector<const char*> ApplicationIconNames() {
   return names;
 }
 
-bool HasChildNodes(const DOMElement& element) { return element.getChildNodes()->getLength() > 0; }
-
 bool NamesListedIcon(const DOMElement& image, const std::vector<const char*>& names) {
   const std::u16string name = TextOrEmpty(image.getNodeName());
   return std::any_of(names.begin(), names.end(),
@@ -59,7 +57,7 @@ void DescriptorDocument::RemoveIconsUnderApplication() {
     for (XMLSize_t i = 0; i < count; ++i) {
       const DOMElement* image = AsElement(icon->getChildNodes()->item(i));
       if (image == nullptr || TextOrEmpty(image->getTextContent()).empty()) continue;
-      RemoveGrandchild("application", "icon", ToUtf8(image->getNodeName()).c_str());
+      RemoveGrandchild("application", "icon", ToLocalCodePage(image->getNodeName()).c_str());
     }
   }
 }
@@ -71,7 +69,7 @@ void DescriptorDocument::CollectIconImages(const DOMElement& icon,
     std::string path;
     if (GetChildTextNarrow(&icon, name, path) == 0) list.push_back(FromLocalCodePage(path));
   }
-  for (const DOMElement* image : ElementsOf(*icon.getChildNodes())) {
+  for (const DOMElement* image : ChildElementsOf(icon)) {
     const std::u16string path = TextOrEmpty(image->getTextContent());
     if (!path.empty() && !NamesListedIcon(*image, names)) list.push_back(path);
   }
@@ -80,7 +78,7 @@ void DescriptorDocument::CollectIconImages(const DOMElement& icon,
 int DescriptorDocument::CollectPackagedImages(std::vector<std::u16string>& list) const {
   if (const int missing = CheckRoot(); missing != 0) return missing;
   for (const DOMElement* icon : ElementsOf(*Root().getElementsByTagName(u"icon"))) {
-    if (IsUnder(*icon, "application") && HasChildNodes(*icon)) CollectIconImages(*icon, list);
+    if (IsUnder(*icon, "application") && icon->hasChildNodes()) CollectIconImages(*icon, list);
   }
   std::vector<DOMNode*> types;
   if (const int missing = FindFileTypes(types); missing != 0) return missing;
@@ -99,8 +97,8 @@ int DescriptorDocument::FindFileTypes(std::vector<DOMNode*>& types) const {
   if (const int missing = CheckRoot(); missing != 0) return missing;
   const DOMElement* fileTypes = FirstElement(*Document(), "fileTypes");
   if (fileTypes == nullptr) return 3;
-  const auto* list = fileTypes->getElementsByTagName(u"fileType");
-  for (XMLSize_t i = 0; i < list->getLength(); ++i) types.push_back(list->item(i));
+  const auto elements = ElementsOf(*fileTypes->getElementsByTagName(u"fileType"));
+  types.assign(elements.begin(), elements.end());
   return types.empty() ? 4 : 0;
 }
 

@@ -1,5 +1,7 @@
 #include "descriptor/DomSearch.h"
 
+#include "platform/Text.h"
+
 namespace qutav {
 
 using xercesc::DOMDocument;
@@ -7,10 +9,7 @@ using xercesc::DOMElement;
 using xercesc::DOMNode;
 using xercesc::DOMNodeList;
 
-std::u16string XmlName(const char* name) {
-  const std::string_view narrow(name);
-  return {narrow.begin(), narrow.end()};
-}
+std::u16string XmlName(const char* name) { return FromLocalCodePage(name); }
 
 std::u16string TextOrEmpty(const XMLCh* text) { return text == nullptr ? u"" : text; }
 
@@ -44,7 +43,7 @@ DOMElement* FirstElementUnder(const DOMDocument& document, const char* parent, c
 
 DOMElement* FindDirectChild(const DOMNode* node, const char* name) {
   if (node == nullptr) return nullptr;
-  for (DOMElement* child : ElementsOf(*node->getChildNodes())) {
+  for (DOMElement* child : ChildElementsOf(*node)) {
     if (TextOrEmpty(child->getNodeName()) == XmlName(name)) return child;
   }
   return nullptr;
@@ -52,8 +51,18 @@ DOMElement* FindDirectChild(const DOMNode* node, const char* name) {
 
 std::vector<DOMElement*> ElementsOf(const DOMNodeList& list) {
   std::vector<DOMElement*> elements;
-  for (XMLSize_t i = 0; i < list.getLength(); ++i) {
-    if (DOMElement* element = AsElement(list.item(i))) elements.push_back(element);
+  // Asking for the length would walk the whole tree again for each item.
+  XMLSize_t i = 0;
+  for (DOMNode* node = list.item(i); node != nullptr; node = list.item(++i)) {
+    if (DOMElement* element = AsElement(node)) elements.push_back(element);
+  }
+  return elements;
+}
+
+std::vector<DOMElement*> ChildElementsOf(const DOMNode& node) {
+  std::vector<DOMElement*> elements;
+  for (DOMNode* child = node.getFirstChild(); child != nullptr; child = child->getNextSibling()) {
+    if (DOMElement* element = AsElement(child)) elements.push_back(element);
   }
   return elements;
 }

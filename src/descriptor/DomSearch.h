@@ -7,7 +7,7 @@
 
 namespace qutav {
 
-/// A narrow ASCII name as Xerces wants it.
+/// A narrow name, in the local code page, as Xerces wants it.
 std::u16string XmlName(const char* name);
 
 /// Text that Xerces gives; empty for null.
@@ -33,6 +33,9 @@ xercesc::DOMElement* FindDirectChild(const xercesc::DOMNode* node, const char* n
 
 /// The items of a list that are elements, in its order. The list may change under the result.
 std::vector<xercesc::DOMElement*> ElementsOf(const xercesc::DOMNodeList& list);
+
+/// The child elements of a node, likewise.
+std::vector<xercesc::DOMElement*> ChildElementsOf(const xercesc::DOMNode& node);
 
 inline xercesc::DOMElement* AsElement(xercesc::DOMNode* node) {
   return dynamic_cast<xercesc::DOMElement*>(node);

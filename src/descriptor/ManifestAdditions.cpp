@@ -5,10 +5,10 @@
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/SAXException.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
 
 #include "descriptor/DescriptorDocument.h"
 #include "descriptor/DomSearch.h"
+#include "descriptor/GuardedParser.h"
 #include "platform/Text.h"
 
 namespace qutav {
@@ -21,7 +21,7 @@ using xercesc::XercesDOMParser;
 constexpr std::u16string_view kPermissionPrefix = u"android.permission.";
 
 bool MentionsInternetPermission(const DOMElement& android) {
-  for (const DOMElement* child : ElementsOf(*android.getChildNodes())) {
+  for (const DOMElement* child : ChildElementsOf(android)) {
     // A match at the very start does not count.
     const std::size_t at =
         TextOrEmpty(child->getTextContent()).find(u"android.permission.INTERNET");
@@ -42,8 +42,7 @@ const XMLCh* FragmentText(const DOMNode* manifestAdditions) {
 
 std::unique_ptr<XercesDOMParser> NewFragmentParser() {
   try {
-    auto parser = std::make_unique<XercesDOMParser>(
-        nullptr, xercesc::XMLPlatformUtils::fgMemoryManager, nullptr);
+    std::unique_ptr<XercesDOMParser> parser = std::make_unique<GuardedParser>();
     parser->setDoSchema(false);
     parser->setDoNamespaces(false);
     parser->setIncludeIgnorableWhitespace(false);
@@ -55,7 +54,8 @@ std::unique_ptr<XercesDOMParser> NewFragmentParser() {
   }
 }
 
-// The fragment below a root of its own; null when it does not parse.
+// The fragment below a root of its own; null when it does not parse. Without an error handler the
+// parser keeps quiet and leaves what stands before the error, which must not pass for the whole.
 const DOMElement* ParseFragment(XercesDOMParser& parser, const std::u16string& fragment) {
   const std::string text = ToLocalCodePage(u"<plist>" + fragment + u"</plist>");
   const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(text.data()),
@@ -67,7 +67,7 @@ const DOMElement* ParseFragment(XercesDOMParser& parser, const std::u16string& f
   } catch (const xercesc::SAXException&) {
     return nullptr;
   }
-  return parser.getDocument()->getDocumentElement();
+  return parser.getErrorCount() == 0 ? parser.getDocument()->getDocumentElement() : nullptr;
 }
 
 // Any one character of the prefix makes a value a permission, and its short name is cut off by
@@ -118,7 +118,7 @@ std::vector<std::u16string> DescriptorDocument::GetManifestPermissions() const {
   if (parser == nullptr) return permissions;
   const DOMElement* manifest = FindDirectChild(ParseFragment(*parser, fragment), "manifest");
   if (manifest == nullptr) return permissions;
-  for (const DOMElement* child : ElementsOf(*manifest->getChildNodes())) {
+  for (const DOMElement* child : ChildElementsOf(*manifest)) {
     if (TextOrEmpty(child->getNodeName()) == u"uses-permission") {
       AppendPermissionsOf(*child, permissions);
     }

@@ -17,7 +17,7 @@ std::u16string CatalogueText(std::uint32_t id) {
 }  // namespace
 
 CDialog::CDialog(std::u16string className, std::uint32_t titleId, WindowHandle parent)
-    : className_(std::move(className)), titleId_(titleId), parent_(parent) {}
+    : className_(std::move(className)), parent_(parent), title_(CatalogueText(titleId)) {}
 
 int CDialog::DoModal() { return TheServices().frontEnd->RunModal(*this); }
 
@@ -37,13 +37,6 @@ void CDialog::Destroy() {
   timers_.clear();
 }
 
-void CDialog::OnInitDialog() {
-  title_ = CatalogueText(titleId_);
-  for (Control& control : controls_) {
-    if (control.textId != 0) control.text = CatalogueText(control.textId);
-  }
-}
-
 Control& CDialog::AddControl(ControlKind kind, std::u16string label, std::uint32_t textId) {
   Control control;
   control.kind = kind;
@@ -51,6 +44,7 @@ Control& CDialog::AddControl(ControlKind kind, std::u16string label, std::uint32
   // The label of a field to fill stands before it; its own text starts empty.
   const bool filled = kind == ControlKind::kEdit || kind == ControlKind::kPassword;
   control.textId = filled ? 0 : textId;
+  control.text = CatalogueText(control.textId);
   controls_.push_back(std::move(control));
   return controls_.back();
 }

@@ -18,6 +18,8 @@ class CDialog {
   using TimerId = std::uint32_t;
 
   /// `className` names the dialog to scripts; `titleId` is the catalogue's id, 0 for no title.
+  /// Texts are those of the interface language now: once a dialog runs, a worker beside it may be
+  /// using what looking them up touches.
   CDialog(std::u16string className, std::uint32_t titleId, WindowHandle parent);
   virtual ~CDialog() = default;
   CDialog(const CDialog&) = delete;
@@ -50,7 +52,7 @@ class CDialog {
 
  protected:
   /// The platform's initialisation, run when the window has been created.
-  virtual void OnInitDialog();
+  virtual void OnInitDialog() {}
   virtual void OnCreate() {}
   virtual void OnDestroy() {}
 
@@ -61,7 +63,6 @@ class CDialog {
 
  private:
   std::u16string className_;
-  std::uint32_t titleId_;
   WindowHandle parent_;
   std::u16string title_;
   std::list<Control> controls_;

@@ -1,6 +1,7 @@
 // One control of a dialog, as its front end shows it and its handlers know it.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -17,6 +18,9 @@ struct Control {
   bool checked = false;
   bool enabled = true;
   bool visible = true;
+  bool isDefault = false;                    ///< the button that Enter presses
+  int rangeEnd = 0;                          ///< of a progress bar, which begins at 0
+  std::chrono::milliseconds marqueeStep{0};  ///< a bar that shows work without an end; 0: none
   std::function<void()> onClick;
 };
 

@@ -213,7 +213,7 @@ std::u16string PackagedContent(const std::u16string& destination,
 
 std::u16string IncludedItems(std::vector<std::u16string>& missing) {
   std::u16string items;
-  const int count = ParseDecimal(SettingsGet(keys::kIncludedCount));
+  const int count = IncludedItemCount(SettingsGet(keys::kIncludedCount));
   for (int i = 0; i < count; ++i) {
     const std::u16string value = SettingsGet(keys::kIncludedItem + ToDecimal(i));
     if (value.empty()) continue;

@@ -35,6 +35,8 @@ int PackagerWorker(PackagerJob& job) {
     if (job.exitCode == 0) InstallOnDevices(job);
   } catch (...) {  // an exception that leaves a thread ends the host
     job.exitCode = kUnexpectedError;
+    job.postPublishOk = 1;
+    job.output.clear();
   }
   job.finished.store(1, std::memory_order_relaxed);
   return 0;

@@ -195,9 +195,20 @@ class PublishRun {
     job_.commandLine = command_;
     CProgressDlg dialog(owner_);
     dialog.SetDoneFlag(&job_.finished);
-    const auto worker = TheServices().threads->Start([this] { PackagerWorker(job_); });
+    const auto worker = StartWorker();
     dialog.DoModal();
     if (worker != nullptr) worker->Join();
+  }
+
+  // A new thread has a language of its own; what the worker tells of devices is for this one's
+  // user.
+  std::unique_ptr<WorkerThread> StartWorker() {
+    Language& language = *TheServices().language;
+    const LanguageId spoken = language.ThreadInterfaceLanguage();
+    return TheServices().threads->Start([this, &language, spoken] {
+      language.SetThreadInterfaceLanguage(spoken);
+      PackagerWorker(job_);
+    });
   }
 
   // Whether there is to be another attempt.

@@ -15,6 +15,8 @@ class Language {
   virtual ~Language() = default;
   /// The calling thread's locale id (`GetThreadLocale`); the low 16 bits are a language id.
   virtual std::uint32_t ThreadLocale() = 0;
+  /// The calling thread's interface language (`GetThreadUILanguage`). A new thread has its own.
+  virtual LanguageId ThreadInterfaceLanguage() = 0;
   /// Switches the calling thread's interface language (`SetThreadUILanguage`) and returns the id
   /// that is in force afterwards.
   virtual LanguageId SetThreadInterfaceLanguage(LanguageId id) = 0;

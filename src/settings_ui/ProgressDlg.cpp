@@ -26,6 +26,8 @@ void CProgressDlg::OnCreate() { SetTimer(kProgressTimer, kTick); }
 void CProgressDlg::OnInitDialog() {
   CDialog::OnInitDialog();
   Centre();
+  bar_->rangeEnd = 100;
+  bar_->marqueeStep = std::chrono::milliseconds(50);
 }
 
 // On the active window where that is the larger in both directions, else on the desktop.

@@ -18,9 +18,9 @@ CTimestampRetryDlg::CTimestampRetryDlg(WindowHandle parent)
       texts::kTimestampConsequence);
   AddControl(ControlKind::kButton, u"Disable Timestamping", texts::kTimestampDisable).onClick =
       [this] { EndDialog(kDisableTimestamping); };
-  AddControl(ControlKind::kButton, u"Retry", texts::kTimestampRetry).onClick = [this] {
-    EndDialog(kRetry);
-  };
+  Control& retry = AddControl(ControlKind::kButton, u"Retry", texts::kTimestampRetry);
+  retry.isDefault = true;
+  retry.onClick = [this] { EndDialog(kRetry); };
   AddControl(ControlKind::kButton, u"Cancel", texts::kTimestampCancel).onClick = [this] {
     OnCancel();
   };

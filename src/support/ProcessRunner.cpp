@@ -18,8 +18,10 @@ bool IsSet(const PolledByte* flag) {
   return flag != nullptr && flag->load(std::memory_order_relaxed) != 0;
 }
 
-void Drain(OutputPipe& pipe, std::u16string& output) {
-  for (auto waiting = pipe.BytesWaiting(); waiting && *waiting != 0;
+// Reads all that waits. A child that writes faster than it is read would keep it here for ever; the
+// cancel flag ends that.
+void Drain(OutputPipe& pipe, std::u16string& output, const PolledByte* cancelFlag) {
+  for (auto waiting = pipe.BytesWaiting(); waiting && *waiting != 0 && !IsSet(cancelFlag);
        waiting = pipe.BytesWaiting()) {
     std::array<char, kChunkSize> chunk{};
     const std::size_t size = pipe.Read(chunk.data(), chunk.size());
@@ -42,7 +44,7 @@ void WatchChild(ChildProcess& child, OutputPipe& pipe, std::u16string& output,
       KillTree(child.Id());
       return;
     }
-    Drain(pipe, output);
+    Drain(pipe, output, cancelFlag);
     TheServices().clock->Sleep(kPollingInterval);
   }
 }
@@ -61,7 +63,7 @@ std::int32_t RunProcess(const std::u16string& command, bool capture, std::u16str
   if (!capture) return 0;
   if (!closed) return -1;
   WatchChild(*child, *pipe, output, cancelFlag);
-  Drain(*pipe, output);
+  Drain(*pipe, output, nullptr);
   child->Wait();
   return static_cast<std::int32_t>(child->ExitCode());
 }
@@ -69,8 +71,8 @@ std::int32_t RunProcess(const std::u16string& command, bool capture, std::u16str
 void ReportFatalAndExit(const std::u16string& name) {
   const Services& services = TheServices();
   const SystemError error = services.processes->LastError();
-  const std::u16string text =
-      name + u" failed with error " + ToDecimal(error.code) + u": " + error.text;
+  const auto code = static_cast<std::int32_t>(error.code);
+  const std::u16string text = name + u" failed with error " + ToDecimal(code) + u": " + error.text;
   services.frontEnd->ShowMessage(
       {nullptr, u"Error", text, MessageIcon::kPlain, MessageButtons::kOk});
   services.processes->EndThisProcess(error.code);

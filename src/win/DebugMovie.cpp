@@ -7,8 +7,6 @@
 #include "win/DocumentPaths.h"
 #include "win/HostScript.h"
 #include "win/LaunchCall.h"
-#include "win/SettingsKeys.h"
-#include "win/SettingsMap.h"
 #include "win/SimulatorController.h"
 
 namespace qutav {
@@ -16,10 +14,7 @@ namespace {
 
 bool ProvideDescriptor(const HostCallContext& call) {
   if (TheServices().files->Exists(DocumentPaths.DescriptorPath)) return true;
-  if (!DocumentWasMoved(call)) return GenerateDefaultDescriptor() != 0;
-  RelocateDescriptor(call, DocumentPaths.MovieFolder, DocumentPaths.MovieBaseName);
-  SettingsSet(keys::kDocumentPath, DocumentPaths.DocumentPath.Text());
-  return true;
+  return FollowMovedDocument(call) || GenerateDefaultDescriptor() != 0;
 }
 
 }  // namespace

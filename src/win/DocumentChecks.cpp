@@ -96,6 +96,13 @@ void RelocateDescriptor(const HostCallContext& call, const std::u16string& folde
   GenerateDefaultDescriptor();
 }
 
+bool FollowMovedDocument(const HostCallContext& call) {
+  if (!DocumentWasMoved(call)) return false;
+  RelocateDescriptor(call, DocumentPaths.MovieFolder, DocumentPaths.MovieBaseName);
+  SettingsSet(keys::kDocumentPath, DocumentPaths.DocumentPath.Text());
+  return true;
+}
+
 bool OpenDescriptor() {
   DocumentPaths.ActiveDescriptorPath = DocumentPaths.DescriptorPath.Text();
   if (!LaunchDescriptor.IsParserReady()) LaunchDescriptor.InitParser();

@@ -24,6 +24,10 @@ bool DocumentWasMoved(const HostCallContext& call);
 void RelocateDescriptor(const HostCallContext& call, const std::u16string& folder,
                         const std::u16string& baseName);
 
+/// Relocates the descriptor of a document that was moved beside the movie and remembers the
+/// document's new path; false, and nothing done, when it was not moved.
+bool FollowMovedDocument(const HostCallContext& call);
+
 /// Opens the descriptor, brings its namespace to that of the SDK, writing it back when it differs,
 /// and closes it. False, and a message shown, when it cannot be parsed.
 bool OpenDescriptor();

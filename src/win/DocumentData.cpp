@@ -11,7 +11,7 @@
 namespace qutav {
 namespace {
 
-constexpr std::array<const char16_t*, 20> kDocumentKeyList = {
+constexpr std::array<const char16_t*, 20> DocumentKeyList = {
     keys::kMovieFolder,
     keys::kMovieBaseName,
     keys::kDocumentPath,
@@ -49,7 +49,7 @@ std::optional<std::u16string> StoredText(const HostCallContext& call, const std:
 
 template <typename Operation>
 void ForEachIncludedItem(const std::u16string& count, Operation operation) {
-  const int items = ParseDecimal(count);
+  const int items = IncludedItemCount(count);
   for (int i = 0; i < items; ++i) operation(keys::kIncludedItem + ToDecimal(i));
 }
 
@@ -81,13 +81,13 @@ void RemoveDocumentKey(const HostCallContext& call, const std::u16string& key) {
 }
 
 void LoadDocumentSettings(const HostCallContext& call) {
-  for (const char16_t* key : kDocumentKeyList) ReadDocumentKey(call, key);
+  for (const char16_t* key : DocumentKeyList) ReadDocumentKey(call, key);
   ForEachIncludedItem(SettingsGet(keys::kIncludedCount),
                       [&](const std::u16string& item) { ReadDocumentKey(call, item); });
 }
 
 void SaveDocumentSettings(const HostCallContext& call) {
-  for (const char16_t* key : kDocumentKeyList) {
+  for (const char16_t* key : DocumentKeyList) {
     if (key != keys::kSdkPath) WriteDocumentKey(call, key);
   }
   // The count just written is what is read here, so a shorter list leaves its surplus behind;

@@ -41,11 +41,7 @@ void FetchSelectedDevice(const HostCallContext& call) {
 // False when no descriptor could be provided.
 bool ProvideDescriptor(const HostCallContext& call) {
   if (TheServices().files->Exists(DocumentPaths.DescriptorPath)) return true;
-  if (DocumentWasMoved(call)) {
-    RelocateDescriptor(call, DocumentPaths.MovieFolder, DocumentPaths.MovieBaseName);
-    SettingsSet(keys::kDocumentPath, DocumentPaths.DocumentPath.Text());
-    return true;
-  }
+  if (FollowMovedDocument(call)) return true;
   if (DocumentHasNoStoredFolder(call)) DetectOutputType(call);
   return GenerateDefaultDescriptor() != 0;
 }

@@ -1,5 +1,6 @@
 #include "win/SettingsMap.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -77,8 +78,13 @@ void ResetSettings() {
   SettingsMap = std::move(kept);
 }
 
+int IncludedItemCount(const std::u16string& count) {
+  constexpr int kMostIncludedItems = 65536;
+  return std::min(ParseDecimal(count), kMostIncludedItems);
+}
+
 void ClearIncludedItems() {
-  const int count = ParseDecimal(SettingsGet(keys::kIncludedCount));
+  const int count = IncludedItemCount(SettingsGet(keys::kIncludedCount));
   for (int i = 0; i < count; ++i) SettingsRemove(keys::kIncludedItem + ToDecimal(i));
 }
 

@@ -34,6 +34,10 @@ bool SettingsEquals(const std::u16string& key, std::u16string_view value);
 /// a password stays only when its remember mark is "true".
 void ResetSettings();
 
+/// How many included items a count stands for: its integer value, and no more than any document
+/// has, so that a damaged one cannot hold the host for hours.
+int IncludedItemCount(const std::u16string& count);
+
 /// Erases the included items that the count tells of; the count itself stays.
 void ClearIncludedItems();
 

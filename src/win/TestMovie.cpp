@@ -22,8 +22,6 @@ namespace {
 constexpr std::size_t kProfileArgument = 3;
 constexpr std::int32_t kHostAsksForPlainLaunch = 2;
 
-void RememberDocumentPath() { SettingsSet(keys::kDocumentPath, DocumentPaths.DocumentPath.Text()); }
-
 bool HasDescriptor() { return TheServices().files->Exists(DocumentPaths.DescriptorPath); }
 
 // A single scene is exported under a name of its own, each time with a descriptor of its own.
@@ -33,16 +31,12 @@ bool NamesScene() {
 
 bool ProvideKnownDescriptor(const HostCallContext& call) {
   if (NamesScene()) return GenerateDefaultDescriptor() != 0;
-  if (HasDescriptor()) return true;
-  if (!DocumentWasMoved(call)) return GenerateDefaultDescriptor() != 0;
-  RelocateDescriptor(call, DocumentPaths.MovieFolder, DocumentPaths.MovieBaseName);
-  RememberDocumentPath();
-  return true;
+  return HasDescriptor() || FollowMovedDocument(call) || GenerateDefaultDescriptor() != 0;
 }
 
 bool ProvideFirstDescriptor(const HostCallContext& call) {
   DetectOutputType(call);
-  RememberDocumentPath();
+  SettingsSet(keys::kDocumentPath, DocumentPaths.DocumentPath.Text());
   return HasDescriptor() || GenerateDefaultDescriptor() != 0;
 }
 

@@ -29,8 +29,24 @@ const char* IconName(MessageIcon icon) {
   return "none";
 }
 
+std::optional<int> ResultOfButton(MessageButtons buttons, const std::string& label) {
+  if (label == "OK") return kIdOk;
+  if (label == "Cancel" && buttons == MessageButtons::kOkCancel) return kIdCancel;
+  return {};
+}
+
 int DefaultAnswer(MessageButtons buttons) {
   return buttons == MessageButtons::kOk ? kIdOk : kIdCancel;
+}
+
+// False when the control is not one to fill, or a check box is given no switch.
+bool FillControl(Control& control, const std::string& value) {
+  if (control.kind == ControlKind::kCheckBox) {
+    control.checked = value == "true";
+    return control.checked || value == "false";
+  }
+  control.text = FromUtf8(value);
+  return control.kind == ControlKind::kEdit || control.kind == ControlKind::kPassword;
 }
 
 Json OpeningRecord(const CDialog& dialog) {
@@ -56,10 +72,10 @@ int ScriptedFrontEnd::ShowMessage(const MessageBoxRequest& request) {
   const auto answer = TakeAnswer({"message", "", title, text});
   int result = DefaultAnswer(request.buttons);
   if (answer && !answer->press.empty()) {
-    const bool cancel = answer->press.front() == "Cancel";
-    if (!cancel || request.buttons == MessageButtons::kOkCancel) {
-      result = cancel ? kIdCancel : kIdOk;
-    }
+    const std::string& button = answer->press.front();
+    const auto pressed = ResultOfButton(request.buttons, button);
+    if (!pressed) ReportMistake("message \"" + text + "\": no button \"" + button + "\" to press");
+    result = pressed.value_or(result);
   }
   Json buttons = Json::array({"OK"});
   if (request.buttons == MessageButtons::kOkCancel) buttons.push_back("Cancel");
@@ -88,7 +104,8 @@ int ScriptedFrontEnd::RunModal(CDialog& dialog) {
 
 void ScriptedFrontEnd::RunDialog(CDialog& dialog, const std::optional<ScriptAnswer>& answer) {
   if (answer && !Fill(dialog, answer->set)) return;
-  if (answer && !answer->after) Press(dialog, answer->press);
+  const bool atOnce = answer && (answer->after.value_or(0) == 0 || dialog.Timers().empty());
+  if (atOnce) Press(dialog, answer->press);
   if (!dialog.HasEnded() && !dialog.Timers().empty()) RunTimers(dialog, answer);
   if (!dialog.HasEnded()) PressOne(dialog, "Cancel");
 }
@@ -108,15 +125,9 @@ void ScriptedFrontEnd::RunTimers(CDialog& dialog, const std::optional<ScriptAnsw
 bool ScriptedFrontEnd::Fill(CDialog& dialog, const ScriptValues& values) {
   for (const auto& [label, value] : values) {
     Control* control = FindControl(dialog, FromUtf8(label));
-    if (control == nullptr) {
-      ReportMistake(dialog, "no control \"" + label + "\"");
-      return false;
-    }
-    if (control->kind == ControlKind::kCheckBox) {
-      control->checked = value == "true";
-    } else {
-      control->text = FromUtf8(value);
-    }
+    if (control != nullptr && FillControl(*control, value)) continue;
+    CancelForMistake(dialog, "no control \"" + label + "\" that takes this value");
+    return false;
   }
   return true;
 }
@@ -132,7 +143,7 @@ bool ScriptedFrontEnd::PressOne(CDialog& dialog, const std::string& button) {
   const bool pressable = control != nullptr && control->kind == ControlKind::kButton &&
                          control->enabled && control->visible;
   if (!pressable) {
-    ReportMistake(dialog, "no button \"" + button + "\" to press");
+    CancelForMistake(dialog, "no button \"" + button + "\" to press");
     return false;
   }
   control->onClick();
@@ -140,10 +151,12 @@ bool ScriptedFrontEnd::PressOne(CDialog& dialog, const std::string& button) {
   return true;
 }
 
-void ScriptedFrontEnd::ReportMistake(CDialog& dialog, const std::string& mistake) {
-  const std::string text = ToUtf8(dialog.ClassName()) + ": " + mistake;
-  std::cerr << "The script is wrong. " << text << std::endl;
-  transcript_.Write({{"event", "script-error"}, {"text", text}});
+void ScriptedFrontEnd::ReportMistake(const std::string& mistake) {
+  transcript_.Write({{"event", "script-error"}, {"text", mistake}});
+}
+
+void ScriptedFrontEnd::CancelForMistake(CDialog& dialog, const std::string& mistake) {
+  ReportMistake(ToUtf8(dialog.ClassName()) + ": " + mistake);
   dialog.OnCancel();
 }
 

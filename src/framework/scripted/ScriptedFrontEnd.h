@@ -31,7 +31,8 @@ class ScriptedFrontEnd final : public FrontEnd {
   bool Fill(CDialog& dialog, const ScriptValues& values);
   void Press(CDialog& dialog, const std::vector<std::string>& buttons);
   bool PressOne(CDialog& dialog, const std::string& button);
-  void ReportMistake(CDialog& dialog, const std::string& mistake);
+  void ReportMistake(const std::string& mistake);
+  void CancelForMistake(CDialog& dialog, const std::string& mistake);
 
   std::mutex mutex_;  // a worker may show a message while the script thread is in a dialog
   AnswerScript script_;

@@ -14,8 +14,7 @@ std::string ConsoleText(const Json& event) {
   if (kind == "message") {
     return event.at("title").get<std::string>() + ": " + event.at("text").get<std::string>();
   }
-  if (kind == "script-error") return "script: " + event.at("text").get<std::string>();
-  if (kind == "link") return "see " + event.at("url").get<std::string>();
+  if (kind == "script-error") return "The script is wrong. " + event.at("text").get<std::string>();
   if (kind == "sheet") return event.at("title").get<std::string>();
   if (kind == "dialog" && !event.at("controls").empty()) {
     return event.at("controls").front().at("text");
@@ -34,6 +33,9 @@ Transcript::Transcript(std::ostream& console) : console_(&console) {}
 
 void Transcript::Write(const Json& event) {
   const std::lock_guard lock(mutex_);
+  if (event.at("event") == "script-error" && console_ == nullptr) {
+    std::cerr << ConsoleText(event) << std::endl;
+  }
   if (file_ != nullptr) {
     *file_ << event.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
     return;

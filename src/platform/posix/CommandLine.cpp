@@ -50,6 +50,7 @@ std::u16string TakeArgument(std::u16string_view& line) {
     } else if (quoted && line.starts_with(u'"')) {
       argument += u'"';
       line.remove_prefix(1);
+      quoted = false;
     } else {
       quoted = !quoted;
     }

@@ -30,6 +30,8 @@ class CatalogueLanguages final : public Language {
   // A POSIX thread has no Windows locale; English stands for it.
   std::uint32_t ThreadLocale() override { return kEnglish; }
 
+  LanguageId ThreadInterfaceLanguage() override { return threadInterfaceLanguage; }
+
   LanguageId SetThreadInterfaceLanguage(LanguageId id) override {
     threadInterfaceLanguage = id;
     return id;

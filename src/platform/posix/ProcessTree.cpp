@@ -60,10 +60,16 @@ std::string ProgramOf(pid_t pid) {
 
 void KillProcessTree(pid_t root) {
   if (root <= 1) return;
-  // Stopped first, so that none of them can start another between the look and the kill.
-  kill(root, SIGSTOP);
-  for (const pid_t pid : DescendantsOf(root)) kill(pid, SIGSTOP);
-  for (const pid_t pid : DescendantsOf(root)) kill(pid, SIGKILL);
+  // Stopped first, and looked for again until there is none that could have started another
+  // meanwhile.
+  std::vector<pid_t> family;
+  for (std::vector<pid_t> found{root}; found != family; found = DescendantsOf(root)) {
+    family = found;
+    for (const pid_t pid : family) kill(pid, SIGSTOP);
+  }
+  for (const pid_t pid : family) kill(pid, SIGKILL);
+  // A child that we started leads a group, in which those remain whose parent has ended before.
+  if (getpgrp() != root) kill(-root, SIGKILL);
 }
 
 void KillProcessesNamed(const std::string& program) {

@@ -97,6 +97,10 @@ std::uint32_t ExitCodeFromStatus(int status) {
   return kKilledBySignal + static_cast<std::uint32_t>(WTERMSIG(status));
 }
 
+// Somebody else in the host has collected the child, or the host ignores SIGCHLD. What is not known
+// to have succeeded has not.
+constexpr std::uint32_t kLostExitCode = 255;
+
 class PosixChild final : public ChildProcess {
  public:
   explicit PosixChild(pid_t pid) : pid_(pid) {}
@@ -124,8 +128,7 @@ class PosixChild final : public ChildProcess {
       collected = waitpid(pid_, &status, options);
     } while (collected < 0 && errno == EINTR);
     if (collected == pid_) exitCode_ = ExitCodeFromStatus(status);
-    // Somebody else in the host has collected it; its code is lost.
-    if (collected < 0) exitCode_ = 0;
+    if (collected < 0) exitCode_ = kLostExitCode;
   }
 
   pid_t pid_;
@@ -181,6 +184,7 @@ class SpawnPlan {
 
   int Spawn(std::vector<std::string> arguments, pid_t& pid) {
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) pointers.push_back(argument.data());
     pointers.push_back(nullptr);
     return posix_spawnp(&pid, pointers[0], &actions_, &attributes_, pointers.data(), environ);

@@ -4,9 +4,11 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -36,17 +38,21 @@ class RegistryLock {
   explicit RegistryLock(const fs::path& folder)
       : descriptor_(
             open((folder / "registry.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kOwnerOnly)) {
-    if (descriptor_ >= 0) flock(descriptor_, LOCK_EX);
+    while (descriptor_ >= 0 && !held_) {
+      held_ = flock(descriptor_, LOCK_EX) == 0;
+      if (!held_ && errno != EINTR) break;
+    }
   }
   ~RegistryLock() {
     if (descriptor_ >= 0) close(descriptor_);
   }
   RegistryLock(const RegistryLock&) = delete;
   RegistryLock& operator=(const RegistryLock&) = delete;
-  bool Held() const { return descriptor_ >= 0; }
+  bool Held() const { return held_; }
 
  private:
   int descriptor_;
+  bool held_ = false;
 };
 
 // The whole hive: an object of keys by path, each an object of values in the order of their
@@ -66,9 +72,7 @@ class RegistryFile {
     std::ifstream stream(file_);
     Json hive = stream ? Json::parse(stream, nullptr, false) : Json::object();
     if (hive.is_object()) return hive;
-    // A file that somebody damaged is set aside, never overwritten.
-    std::error_code error;
-    fs::rename(file_, fs::path(file_) += ".damaged", error);
+    SetAside();
     return Json::object();
   }
 
@@ -77,6 +81,7 @@ class RegistryFile {
     const RegistryLock lock(folder_);
     if (!lock.Held()) return false;
     Json hive = Load();
+    if (damaged_) return false;
     if (!change(hive)) return true;
     const std::string text = hive.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
     return ReplaceFile(file_, kOwnerOnly,
@@ -84,8 +89,21 @@ class RegistryFile {
   }
 
  private:
+  // A file that somebody damaged is kept under another name. Where that cannot be done it stays,
+  // and nothing is written.
+  void SetAside() const {
+    std::error_code error;
+    fs::path aside = fs::path(file_) += ".damaged";
+    for (int i = 2; fs::exists(aside, error); ++i) {
+      aside = fs::path(file_) += ".damaged" + std::to_string(i);
+    }
+    fs::rename(file_, aside, error);
+    damaged_ = static_cast<bool>(error);
+  }
+
   fs::path folder_;
   fs::path file_;
+  mutable bool damaged_ = false;  // and in its place still
 };
 
 std::optional<std::u16string> TextWithin(const Json& value, std::size_t capacity) {
@@ -109,7 +127,8 @@ class FileRegistryKey final : public RegistryKey {
   std::optional<std::u16string> Enumerate(std::size_t index, std::size_t capacity) override {
     const Json values = Values();
     if (index >= values.size()) return {};
-    return TextWithin((values.begin() + static_cast<std::ptrdiff_t>(index)).value(), capacity);
+    // Members of an object are reached one after the other only.
+    return TextWithin(*std::next(values.begin(), static_cast<std::ptrdiff_t>(index)), capacity);
   }
 
   void Set(const std::u16string& name, const std::u16string& value) override {

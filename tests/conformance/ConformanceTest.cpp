@@ -1,0 +1,233 @@
+// The built library, loaded as a host loads it and entered through its export alone.
+
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "FakeHost.h"
+#include "platform/Text.h"
+
+namespace qutav::test {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+
+using Entry = std::int32_t (*)(const void* table, std::uint32_t size);
+
+constexpr std::uint32_t kWholeTable = 448;
+
+// A host loads the library once and never lets it go.
+void* TheLibrary() {
+  static void* library = dlopen(QUTAV_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+  EXPECT_NE(library, nullptr) << dlerror();
+  return library;
+}
+
+std::string ReadAll(const fs::path& path) {
+  std::ifstream stream(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << stream.rdbuf();
+  return bytes.str();
+}
+
+class ConformanceTest : public ::testing::Test {
+ protected:
+  // The library reads its environment once, when it is first entered.
+  static void SetUpTestSuite() {
+    char pattern[] = "/tmp/qutav-conformance-XXXXXX";
+    suiteFolder = mkdtemp(pattern);
+    setenv("QUTAV_TRANSCRIPT", (suiteFolder / "transcript.jsonl").c_str(), 1);
+    setenv("XDG_CONFIG_HOME", (suiteFolder / "config").c_str(), 1);
+    setenv("TMPDIR", suiteFolder.c_str(), 1);
+    setenv("CommonProgramFiles", (suiteFolder / "common").c_str(), 1);
+    unsetenv("QUTAV_SCRIPT");
+  }
+  static void TearDownTestSuite() { fs::remove_all(suiteFolder); }
+
+  ConformanceTest() : library(TheLibrary()) {
+    enter = reinterpret_cast<Entry>(dlsym(library, "KR_InitWrapper"));
+    folder = suiteFolder / ::testing::UnitTest::GetInstance()->current_test_info()->name();
+    fs::create_directories(folder);
+    host.uriToPath = [](const std::u16string& uri) {
+      return ReplaceAll(ReplaceAll(uri.substr(7), u"%20", u" "), u"/", u"\\");
+    };
+    transcriptStart = ReadAll(suiteFolder / "transcript.jsonl").size();
+  }
+
+  std::int32_t Enter(std::uint32_t size = kWholeTable) {
+    const HostTable table = host.Table();
+    return enter(table.words.data(), size);
+  }
+
+  ScriptFunction Function(const std::u16string& name) const {
+    for (const FakeHost::Defined& defined : host.defined) {
+      if (defined.name == name) return defined.function;
+    }
+    ADD_FAILURE() << "not defined: " << ToUtf8(name);
+    return nullptr;
+  }
+
+  std::u16string Uri(const fs::path& path) const {
+    return u"file://" + ReplaceAll(FromUtf8(path.string()), u" ", u"%20");
+  }
+
+  std::int32_t Publish(const std::u16string& movie) {
+    const HostValue arguments[] = {host.Text(Uri(folder / "Game.qud")), host.Text(movie),
+                                   host.Text(u"26.0")};
+    return Function(u"Publish")(nullptr, nullptr, 3, arguments, nullptr);
+  }
+
+  std::vector<nlohmann::json> Shown() const {
+    std::vector<nlohmann::json> events;
+    std::istringstream lines(ReadAll(suiteFolder / "transcript.jsonl").substr(transcriptStart));
+    for (std::string line; std::getline(lines, line);) {
+      events.push_back(nlohmann::json::parse(line));
+    }
+    return events;
+  }
+
+  static fs::path suiteFolder;
+  void* library;
+  Entry enter = nullptr;
+  FakeHost host;
+  fs::path folder;
+  std::size_t transcriptStart = 0;
+};
+
+fs::path ConformanceTest::suiteFolder;
+
+TEST_F(ConformanceTest, TheEntryDefinesTheSevenFunctionsInOrder) {
+  EXPECT_EQ(Enter(), 1);
+
+  std::vector<std::pair<std::string, std::uint32_t>> defined;
+  for (const auto& function : host.defined) {
+    defined.emplace_back(ToUtf8(function.name), function.argumentCount);
+  }
+  EXPECT_THAT(
+      defined,
+      ElementsAre(std::pair("Publish", 3u), std::pair("TestMovie", 4u), std::pair("DebugMovie", 4u),
+                  std::pair("TestOnDevice", 3u), std::pair("DebugOnDevice", 3u),
+                  std::pair("OpenSettingDialog", 3u), std::pair("GetConnectedDevices", 3u)));
+}
+
+TEST_F(ConformanceTest, NothingButTheEntryIsExported) {
+  EXPECT_NE(dlsym(library, "KR_InitWrapper"), nullptr);
+
+  std::ostringstream command;
+  command << "nm -D --defined-only '" << QUTAV_LIBRARY << "' | awk '{print $3}' | sort";
+  FILE* pipe = popen(command.str().c_str(), "r");
+  ASSERT_NE(pipe, nullptr);
+  std::string names;
+  for (int c = fgetc(pipe); c != EOF; c = fgetc(pipe)) names += static_cast<char>(c);
+  EXPECT_EQ(pclose(pipe), 0);
+  EXPECT_EQ(names, "KR_InitWrapper\n");
+}
+
+TEST_F(ConformanceTest, ATableWithoutDefineFunctionDefinesNothing) {
+  HostTable table = host.Table();
+  table.words[1] = 0;
+
+  EXPECT_EQ(enter(table.words.data(), kWholeTable), 0);
+
+  EXPECT_TRUE(host.defined.empty());
+}
+
+TEST_F(ConformanceTest, FunctionsOfAHostThatCannotEvaluateAnswerOneInSilence) {
+  EXPECT_EQ(Enter(16), 1);
+  ASSERT_EQ(host.defined.size(), 7u);
+
+  for (const auto& function : host.defined) {
+    const HostValue arguments[4] = {};
+    EXPECT_EQ(function.function(nullptr, nullptr, 4, arguments, nullptr), 1)
+        << ToUtf8(function.name);
+  }
+
+  EXPECT_TRUE(host.scripts.empty());
+  EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(ConformanceTest, ALongMovieUriEndsACommandInSilence) {
+  Enter();
+
+  EXPECT_EQ(Publish(u"file:///" + std::u16string(253, u'a')), 1);
+
+  EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(ConformanceTest, AMovieInAVanishedFolderIsToldAndNothingElseHappens) {
+  Enter();
+
+  EXPECT_EQ(Publish(Uri(folder / "gone" / "Game.qmv")), 1);
+
+  const auto shown = Shown();
+  ASSERT_EQ(shown.size(), 1u);
+  EXPECT_EQ(shown[0]["text"], "The destination folder for publishing qmv file does not exist.");
+  EXPECT_EQ(shown[0]["title"], "Zenvoka Kestrow");
+  EXPECT_EQ(shown[0]["icon"], "information");
+  EXPECT_TRUE(fs::is_empty(folder));
+}
+
+TEST_F(ConformanceTest, ADocumentOnANetworkShareIsRefused) {
+  host.uriToPath = [](const std::u16string&) { return u"\\\\server\\share\\Game.qmv"; };
+  Enter();
+
+  EXPECT_EQ(Publish(u"file://server/share/Game.qmv"), 1);
+
+  const auto shown = Shown();
+  ASSERT_EQ(shown.size(), 1u);
+  EXPECT_EQ(shown[0]["text"],
+            "Publishing to remote network location is not supported. Please update the output file "
+            "path in Publish Settings and try again.");
+}
+
+TEST_F(ConformanceTest, AFirstPublishWritesADescriptorAndOpensTheSheetForTheCertificate) {
+  Enter();
+  host.languageCode = u"su_DO";
+
+  EXPECT_EQ(Publish(Uri(folder / "My Game.qmv")), 1);
+
+  const std::string descriptor = ReadAll(folder / "My Game-app.xml");
+  EXPECT_NE(descriptor.find("My%20Game.qmv"), std::string::npos);
+  EXPECT_NE(descriptor.find("<id>MyGame</id>"), std::string::npos);
+  const auto shown = Shown();
+  ASSERT_FALSE(shown.empty());
+  EXPECT_EQ(shown[0]["event"], "sheet");
+  EXPECT_EQ(shown[0]["page"], 1);
+  EXPECT_EQ(shown[0]["title"], "[su] $_TAV for Android Settings_#");
+}
+
+TEST_F(ConformanceTest, AMalformedDescriptorIsToldAndLeftAsItIs) {
+  std::ofstream(folder / "Game-app.xml") << "<application";
+  Enter();
+
+  EXPECT_EQ(Publish(Uri(folder / "Game.qmv")), 1);
+
+  ASSERT_FALSE(Shown().empty());
+  EXPECT_EQ(Shown()[0]["text"], "Application descriptor file cannot be parsed.");
+  EXPECT_EQ(Shown()[0]["icon"], "warning");
+  EXPECT_EQ(ReadAll(folder / "Game-app.xml"), "<application");
+}
+
+TEST_F(ConformanceTest, AnExceptionOfTheHostNeverCrossesAScriptFunction) {
+  Enter();
+  host.onScript = [](const std::u16string& script) -> std::optional<HostValue> {
+    if (script == u"qu.getDocumentDOM().playerTarget;") throw std::runtime_error("host");
+    return {};
+  };
+
+  EXPECT_EQ(Publish(Uri(folder / "Game.qmv")), 1);
+
+  ASSERT_EQ(Shown().size(), 1u);
+  EXPECT_EQ(Shown()[0]["text"], "Unknown error.");
+  EXPECT_EQ(Shown()[0]["icon"], "warning");
+}
+
+}  // namespace
+}  // namespace qutav::test

@@ -1,0 +1,152 @@
+"""What the end-to-end tests share: a copy of the sample document, real Java, a keystore, and runs of
+the host command."""
+
+import hashlib
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+BUILD = pathlib.Path(os.environ["QUTAV_BUILD"])
+SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "samples" / "Game"
+PASSWORD = "practice-only"
+
+
+def java_home():
+    return pathlib.Path(os.path.realpath(shutil.which("java"))).parents[1]
+
+
+def run(*command, **options):
+    return subprocess.run([str(part) for part in command], capture_output=True, text=True,
+                          check=False, **options)
+
+
+def hashes(folder):
+    """The hash of every file below a folder, by its relative path."""
+    return {path.relative_to(folder).as_posix(): hashlib.sha256(path.read_bytes()).hexdigest()
+            for path in sorted(folder.rglob("*")) if path.is_file()}
+
+
+def processes_mentioning(text):
+    """Command lines of the running processes that mention a text, this one's excepted."""
+    found = []
+    for entry in pathlib.Path("/proc").iterdir():
+        if not entry.name.isdigit() or int(entry.name) == os.getpid():
+            continue
+        try:
+            line = (entry / "cmdline").read_bytes().replace(b"\0", b" ").decode("utf-8", "replace")
+        except OSError:
+            continue
+        if text in line:
+            found.append(line)
+    return found
+
+
+class PublishTest(unittest.TestCase):
+    """A document of its own in a temporary folder, deleted afterwards."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.shared = pathlib.Path(tempfile.mkdtemp(prefix="qutav-endtoend-"))
+        cls.addClassCleanup(shutil.rmtree, cls.shared)
+        cls.keystore = cls.shared / "keys" / "sample.p12"
+        cls.keystore.parent.mkdir()
+        made = run("java", "-jar", BUILD / "TAV26.0" / "lib" / "KOB.jar", "-certificate",
+                   "-cn", "Sample Publisher", "-ou", "Games", "-o", "Sample Studio", "-c", "US",
+                   "-validityPeriod", "25", "2048-RSA", cls.keystore, PASSWORD)
+        assert made.returncode == 0, made.stdout + made.stderr
+
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="case-", dir=self.shared))
+        self.game = self.folder / "Game"
+        shutil.copytree(SAMPLE, self.game)
+        self.document = self.game / "Game.qud.json"
+        self.transcript = self.folder / "transcript.jsonl"
+        self.environment = dict(
+            os.environ, CommonProgramFiles=str(self.folder / "common"),
+            XDG_CONFIG_HOME=str(self.folder / "config"), TMPDIR=str(self.folder),
+            SAMPLE_PASSWORD=PASSWORD)
+        self.install_java(java_home())
+
+    def tearDown(self):
+        self.assertEqual(processes_mentioning(str(self.folder)), [], "a child process stayed behind")
+
+    def install_java(self, home):
+        jre = self.folder / "common" / "Zenvoka" / "Zenvoka Kestrow 2020" / "jre"
+        jre.parent.mkdir(parents=True, exist_ok=True)
+        if jre.is_symlink():
+            jre.unlink()
+        jre.symlink_to(home)
+
+    def install_tool(self, body):
+        """Puts a shell script in Java's place."""
+        home = self.folder / "fake-java"
+        (home / "bin").mkdir(parents=True)
+        launcher = home / "bin" / "java"
+        launcher.write_text("#!/bin/sh\n" + body, encoding="utf-8")
+        launcher.chmod(0o755)
+        self.install_java(home)
+
+    def edit_document(self, **data):
+        document = json.loads(self.document.read_text(encoding="utf-8"))
+        document["data"].update({key.replace("__", "."): value for key, value in data.items()})
+        self.document.write_text(json.dumps(document, ensure_ascii=False), encoding="utf-8")
+
+    def set_data(self, key, value):
+        self.edit_document(**{key: value})
+
+    def set_member(self, member, value):
+        document = json.loads(self.document.read_text(encoding="utf-8"))
+        document[member] = value
+        self.document.write_text(json.dumps(document, ensure_ascii=False), encoding="utf-8")
+
+    def rename_movie(self, name):
+        """Gives document, descriptor and movie another base name."""
+        document = self.game / f"{name}.qud.json"
+        self.document.rename(document)
+        self.document = document
+        self.set_member("movie", f"{name}.qmv")
+        descriptor = (self.game / "Game-app.xml").read_text(encoding="utf-8")
+        encoded = name.replace(" ", "%20")
+        (self.game / "Game-app.xml").unlink()
+        (self.game / f"{name}-app.xml").write_text(
+            descriptor.replace("Game.qmv", f"{encoded}.qmv"), encoding="utf-8")
+
+    def publish(self, *options, version="26.0", certificate=None, timeout=120):
+        command = [BUILD / "qutav", "publish", self.document, "--version", version,
+                   "--transcript", self.transcript]
+        if "--script" not in options:
+            command += ["--certificate", certificate or self.keystore,
+                        "--password-env", "SAMPLE_PASSWORD"]
+        return run(*command, *options, env=self.environment, timeout=timeout,
+                   stdin=subprocess.DEVNULL)
+
+    def publish_with_answers(self, *answers, **options):
+        """Publishes by a script: the given answers, and a sheet that publishes and is cancelled."""
+        script = self.folder / "script.json"
+        sheet = {"to": "sheet", "press": ["Publish", "Cancel"],
+                 "settings": {"com.tav.moresh.certpath": str(self.keystore),
+                              "com.tav.moresh.certpwd": {"environment": "SAMPLE_PASSWORD"}}}
+        script.write_text(json.dumps({"answers": [*answers, sheet]}), encoding="utf-8")
+        return self.publish("--script", script, **options)
+
+    def events(self):
+        lines = self.transcript.read_text(encoding="utf-8").splitlines()
+        return [json.loads(line) for line in lines]
+
+    def messages(self):
+        return [event["text"] for event in self.events() if event["event"] == "message"]
+
+    def assert_published(self, result, package):
+        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        self.assertTrue(package.is_file(), f"{package} is missing")
+        verified = run("apksigner", "verify", "--min-sdk-version", "21", package)
+        self.assertEqual(verified.returncode, 0, verified.stdout + verified.stderr)
+
+    def assert_refused(self, result, *messages):
+        self.assertEqual(result.returncode, 1, result.stdout + result.stderr)
+        self.assertEqual(self.messages(), list(messages))
+        self.assertEqual(list(self.game.rglob("*.apk")), [])

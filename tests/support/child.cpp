@@ -1,0 +1,96 @@
+// The child that tests start. It does what its first argument says:
+//   print TEXT...     prints the texts on standard output, each as it stands
+//   error TEXT        prints the text on standard error
+//   flood COUNT       prints that many bytes
+//   zeros             prints bytes with a zero among them
+//   exit CODE         ends with that code
+//   arguments ...     prints what follows, one argument a line
+//   environment NAME  prints the variable
+//   folder            prints the current folder
+//   input             prints what it reads from standard input, then "end"
+//   hang              tells its process id and runs until it is killed
+//   family            starts a child that hangs, hangs itself, and both tell their process ids
+//   leave             starts a child that hangs, tells its process id and ends
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+[[noreturn]] void HangSilently() {
+  while (true) pause();
+}
+
+[[noreturn]] void Hang() {
+  std::cout << getpid() << std::endl;
+  HangSilently();
+}
+
+void LeaveAChild() {
+  const pid_t child = fork();
+  if (child == 0) HangSilently();
+  std::cout << child;
+}
+
+void Flood(std::size_t count) {
+  const std::string line = std::string(99, 'x') + "\n";
+  for (std::size_t written = 0; written < count; written += line.size()) {
+    std::cout.write(line.data(), static_cast<std::streamsize>(line.size()));
+  }
+}
+
+void PrintInput() {
+  std::cout << std::string(std::istreambuf_iterator<char>(std::cin), {}) << "end";
+}
+
+const char* EnvironmentText(const std::string& name) {
+  const char* value = std::getenv(name.c_str());
+  return value == nullptr ? "" : value;
+}
+
+int Run(std::string_view order, const std::vector<std::string>& values) {
+  if (order == "print") {
+    for (const std::string& value : values) std::cout << value;
+  } else if (order == "error") {
+    std::cerr << values.at(0);
+  } else if (order == "flood") {
+    Flood(std::stoul(values.at(0)));
+  } else if (order == "zeros") {
+    std::cout.write("seen\0hidden", 11);
+  } else if (order == "exit") {
+    return std::stoi(values.at(0));
+  } else if (order == "arguments") {
+    for (const std::string& value : values) std::cout << value << '\n';
+  } else if (order == "environment") {
+    std::cout << EnvironmentText(values.at(0));
+  } else if (order == "folder") {
+    std::cout << std::filesystem::current_path().string();
+  } else if (order == "input") {
+    PrintInput();
+  } else if (order == "hang") {
+    Hang();
+  } else if (order == "family") {
+    fork();
+    Hang();
+  } else if (order == "leave") {
+    LeaveAChild();
+  } else {
+    return 64;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  const std::vector<std::string> all(arguments + 1, arguments + count);
+  if (all.empty()) return 64;
+  return Run(all.front(), {all.begin() + 1, all.end()});
+}
