@@ -64,7 +64,8 @@ class Bench:
         return self.tool("-package", "-target", "apk-captive-runtime", "-arch", "armv8",
                          "-storetype", "PKCS12", "-keystore", self.keystore, "-storepass", PASSWORD,
                          self.folder / "alone.apk", self.game / "Game-app.xml", "-C", self.game,
-                         "Game.qmv", *icons)
+                         "Game.qmv", *icons, "-C", self.game, "level data/first level.json", "-C",
+                         self.game, "sounds/Über uns.txt", "-extdir", self.game / "ext")
 
     def publish(self, java):
         environment = dict(os.environ, CommonProgramFiles=str(self.folder / java),

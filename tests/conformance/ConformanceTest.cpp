@@ -37,20 +37,44 @@ std::string ReadAll(const fs::path& path) {
   return bytes.str();
 }
 
-class ConformanceTest : public ::testing::Test {
- protected:
-  // The library reads its environment once, when it is first entered.
-  static void SetUpTestSuite() {
+fs::path suiteFolder;
+
+// The library reads its environment once, when it is first entered.
+class HostEnvironmentVariables : public ::testing::Environment {
+ public:
+  void SetUp() override {
     char pattern[] = "/tmp/qutav-conformance-XXXXXX";
     suiteFolder = mkdtemp(pattern);
     setenv("QUTAV_TRANSCRIPT", (suiteFolder / "transcript.jsonl").c_str(), 1);
     setenv("XDG_CONFIG_HOME", (suiteFolder / "config").c_str(), 1);
     setenv("TMPDIR", suiteFolder.c_str(), 1);
     setenv("CommonProgramFiles", (suiteFolder / "common").c_str(), 1);
-    unsetenv("QUTAV_SCRIPT");
+    setenv("QUTAV_SCRIPT", (suiteFolder / "script.json").c_str(), 1);
+    // Only the English sheet is answered.
+    std::ofstream(suiteFolder / "script.json")
+        << R"({"answers": [{"to": "sheet", "title": "TAV for Android Settings", "repeat": true,
+                "settings": {"com.tav.moresh.certpath": "/keys/my.p12",
+                             "com.tav.moresh.certpwd": "secret"},
+                "press": ["Publish", "Cancel"]}]})";
+    InstallTool();
   }
-  static void TearDownTestSuite() { fs::remove_all(suiteFolder); }
 
+  // In Java's place: keeps its arguments and ends as the file "ending" says.
+  static void InstallTool() {
+    const fs::path bin = suiteFolder / "common/Zenvoka/Zenvoka Kestrow 2020/jre/bin";
+    fs::create_directories(bin);
+    std::ofstream(bin / "java") << "#!/bin/sh\nprintf '%s\\n' \"$@\" > '"
+                                << (suiteFolder / "arguments").string() << "'\n. '"
+                                << (suiteFolder / "ending").string() << "'\n";
+    fs::permissions(bin / "java", fs::perms::owner_all);
+  }
+  void TearDown() override { fs::remove_all(suiteFolder); }
+};
+
+const auto* const theVariables = ::testing::AddGlobalTestEnvironment(new HostEnvironmentVariables);
+
+class ConformanceTest : public ::testing::Test {
+ protected:
   ConformanceTest() : library(TheLibrary()) {
     enter = reinterpret_cast<Entry>(dlsym(library, "KR_InitWrapper"));
     folder = suiteFolder / ::testing::UnitTest::GetInstance()->current_test_info()->name();
@@ -93,15 +117,12 @@ class ConformanceTest : public ::testing::Test {
     return events;
   }
 
-  static fs::path suiteFolder;
   void* library;
   Entry enter = nullptr;
   FakeHost host;
   fs::path folder;
   std::size_t transcriptStart = 0;
 };
-
-fs::path ConformanceTest::suiteFolder;
 
 TEST_F(ConformanceTest, TheEntryDefinesTheSevenFunctionsInOrder) {
   EXPECT_EQ(Enter(), 1);
@@ -201,6 +222,61 @@ TEST_F(ConformanceTest, AFirstPublishWritesADescriptorAndOpensTheSheetForTheCert
   EXPECT_EQ(shown[0]["event"], "sheet");
   EXPECT_EQ(shown[0]["page"], 1);
   EXPECT_EQ(shown[0]["title"], "[su] $_TAV for Android Settings_#");
+}
+
+class WholePublishTest : public ConformanceTest {
+ protected:
+  WholePublishTest() {
+    std::ofstream(folder / "Game.qmv") << "QMV";
+    std::ofstream(folder / "Game-app.xml")
+        << R"(<application xmlns="http://ns.zenvoka.example/tav/application/26.0">)"
+        << "<id>com.example.game</id><name>My Game</name><icon/></application>";
+  }
+
+  std::vector<std::string> PublishAndListMessages(const std::string& ending) {
+    std::ofstream(suiteFolder / "ending") << ending << "\n";
+    Enter();
+    EXPECT_EQ(Publish(Uri(folder / "Game.qmv")), 1);
+    std::vector<std::string> messages;
+    for (const auto& event : Shown()) {
+      if (event["event"] == "message") messages.push_back(event["text"]);
+    }
+    return messages;
+  }
+
+  std::vector<std::string> Arguments() const {
+    std::vector<std::string> arguments;
+    std::istringstream lines(ReadAll(suiteFolder / "arguments"));
+    for (std::string line; std::getline(lines, line);) arguments.push_back(line);
+    return arguments;
+  }
+};
+
+TEST_F(WholePublishTest, AFinishedToolIsToldAsAPackage) {
+  EXPECT_THAT(PublishAndListMessages("exit 0"), ElementsAre("APK file has been created."));
+
+  const std::string movieFolder = folder.string() + "/";
+  const auto arguments = Arguments();
+  ASSERT_GE(arguments.size(), 2u);
+  EXPECT_EQ(arguments[0], "-jar");
+  EXPECT_THAT(std::vector<std::string>(arguments.begin() + 2, arguments.end()),
+              ElementsAre("-package", "-target", "apk-debug", "-connect", "-arch", "armv7",
+                          "-storetype", "PKCS12", "-keystore", "/keys/my.p12", "-storepass",
+                          "secret", movieFolder + "My Game.apk", movieFolder + "Game-app.xml", "-C",
+                          movieFolder, "Game.qmv"));
+}
+
+TEST_F(WholePublishTest, AFailedToolIsToldByItsWords) {
+  EXPECT_THAT(PublishAndListMessages("echo 'Game-app.xml: error 303: icon'; exit 1"),
+              ElementsAre("Error creating files.\n\nIcon file is missing."));
+}
+
+TEST_F(WholePublishTest, ThePasswordIsMaskedInTheTranscript) {
+  PublishAndListMessages("exit 0");
+
+  for (const auto& event : Shown()) {
+    EXPECT_EQ(event.dump().find("secret"), std::string::npos) << event.dump();
+  }
 }
 
 TEST_F(ConformanceTest, AMalformedDescriptorIsToldAndLeftAsItIs) {

@@ -30,18 +30,16 @@ def hashes(folder):
             for path in sorted(folder.rglob("*")) if path.is_file()}
 
 
-def processes_mentioning(text):
-    """Command lines of the running processes that mention a text, this one's excepted."""
+def processes_of(folder):
+    """Command lines of the running processes that have inherited the environment of a test case: it
+    names the case's folder, and every child and grandchild has it."""
     found = []
     for entry in pathlib.Path("/proc").iterdir():
-        if not entry.name.isdigit() or int(entry.name) == os.getpid():
-            continue
         try:
-            line = (entry / "cmdline").read_bytes().replace(b"\0", b" ").decode("utf-8", "replace")
+            if entry.name.isdigit() and str(folder).encode() in (entry / "environ").read_bytes():
+                found.append((entry / "cmdline").read_bytes().replace(b"\0", b" ").decode())
         except OSError:
-            continue
-        if text in line:
-            found.append(line)
+            continue  # it has ended meanwhile, or is somebody else's
     return found
 
 
@@ -72,7 +70,7 @@ class PublishTest(unittest.TestCase):
         self.install_java(java_home())
 
     def tearDown(self):
-        self.assertEqual(processes_mentioning(str(self.folder)), [], "a child process stayed behind")
+        self.assertEqual(processes_of(self.folder), [], "a child process stayed behind")
 
     def install_java(self, home):
         jre = self.folder / "common" / "Zenvoka" / "Zenvoka Kestrow 2020" / "jre"
