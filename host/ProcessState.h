@@ -8,6 +8,10 @@ namespace qutav::host {
 /// The running executable.
 std::filesystem::path ExecutableFile();
 
+/// Takes back a caller's wish to hear nothing of its children: without their exit codes nobody can
+/// tell what became of them.
+void ListenToChildren();
+
 /// Sets a variable of this process's environment, which the library and its children see.
 void SetEnvironment(const std::string& name, const std::string& value);
 

@@ -8,7 +8,7 @@ namespace qutav::host {
 TranscriptTail::TranscriptTail(const std::filesystem::path& transcript, Handler handler)
     : reader_(transcript),
       handler_(std::move(handler)),
-      thread_([this](std::stop_token stop) { Follow(std::move(stop)); }) {}
+      thread_([this](const std::stop_token& stop) { Follow(stop); }) {}
 
 TranscriptTail::~TranscriptTail() { Finish(); }
 
@@ -18,7 +18,7 @@ void TranscriptTail::Finish() {
   thread_.join();
 }
 
-void TranscriptTail::Follow(std::stop_token stop) {
+void TranscriptTail::Follow(const std::stop_token& stop) {
   constexpr std::chrono::milliseconds kPause(100);
   bool stopping = false;
   do {

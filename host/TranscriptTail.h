@@ -28,7 +28,7 @@ class TranscriptTail {
   void Finish();
 
  private:
-  void Follow(std::stop_token stop);
+  void Follow(const std::stop_token& stop);
 
   TranscriptReader reader_;
   Handler handler_;

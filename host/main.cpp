@@ -6,6 +6,7 @@
 #include "host/Console.h"
 #include "host/EvaluateCommand.h"
 #include "host/ExitCodes.h"
+#include "host/ProcessState.h"
 #include "host/PublishCommand.h"
 #include "host/Refusal.h"
 #include "host/Terminal.h"
@@ -40,6 +41,7 @@ int RunReported(const CommandRequest& request, Console& console) {
 
 int main(int count, char** arguments) {
   using namespace qutav::host;
+  ListenToChildren();
   Console console(std::cout, std::cerr, StandardErrorIsTerminal());
   return RunReported(ParseCommandLine(count, arguments, std::cout, std::cerr), console);
 }

@@ -1,5 +1,6 @@
 #include "host/ProcessState.h"
 
+#include <signal.h>
 #include <stdlib.h>
 #include <unistd.h>
 
@@ -10,6 +11,8 @@
 namespace qutav::host {
 
 std::filesystem::path ExecutableFile() { return std::filesystem::read_symlink("/proc/self/exe"); }
+
+void ListenToChildren() { signal(SIGCHLD, SIG_DFL); }
 
 void SetEnvironment(const std::string& name, const std::string& value) {
   if (setenv(name.c_str(), value.c_str(), 1) != 0) throw std::system_error(LastSystemError(), name);

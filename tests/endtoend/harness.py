@@ -67,6 +67,7 @@ class PublishTest(unittest.TestCase):
             os.environ, CommonProgramFiles=str(self.folder / "common"),
             XDG_CONFIG_HOME=str(self.folder / "config"), TMPDIR=str(self.folder),
             SAMPLE_PASSWORD=PASSWORD)
+        self.launcher = []  # what starts the host command
         self.install_java(java_home())
 
     def tearDown(self):
@@ -119,7 +120,7 @@ class PublishTest(unittest.TestCase):
         if "--script" not in options:
             command += ["--certificate", certificate or self.keystore,
                         "--password-env", "SAMPLE_PASSWORD"]
-        return run(*command, *options, env=self.environment, timeout=timeout,
+        return run(*self.launcher, *command, *options, env=self.environment, timeout=timeout,
                    stdin=subprocess.DEVNULL)
 
     def publish_with_answers(self, *answers, **options):

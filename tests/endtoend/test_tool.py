@@ -59,6 +59,12 @@ class Tool(PublishTest):
         self.assert_refused(result)
         self.assertEqual(tries.read_text(encoding="utf-8"), "x\n" * 3)
 
+    def test_a_failure_is_seen_by_a_host_that_was_told_to_ignore_its_children(self):
+        self.install_tool("echo 'x: error 303'\nexit 1\n")
+        self.launcher = ["sh", "-c", "trap '' CHLD; exec \"$@\"", "sh"]
+
+        self.assert_refused(self.publish(), "Error creating files.\n\nIcon file is missing.")
+
     def test_a_tool_killed_from_outside_ends_the_publish(self):
         self.install_tool("kill -9 $$\n")
 

@@ -18,19 +18,25 @@ std::int32_t DefineFunction(void*, const char16_t* name, ScriptFunction function
   return 1;
 }
 
-std::int32_t ValueToInteger(void*, HostValue value, std::int32_t* integer) {
+std::int32_t ValueToInteger(void* context, HostValue value, std::int32_t* integer) {
+  theHost->conversionContexts.push_back(context);
   *integer = theHost->ToInteger(value);
   return 1;
 }
 
-const char16_t* ValueToString(void*, HostValue value, std::uint32_t* length) {
+const char16_t* ValueToString(void* context, HostValue value, std::uint32_t* length) {
+  theHost->conversionContexts.push_back(context);
   return theHost->ToText(value, *length);
 }
 
-const char16_t* UriToPath(void*, const char16_t* uri) { return theHost->ToPath(uri); }
+const char16_t* UriToPath(void* context, const char16_t* uri) {
+  theHost->conversionContexts.push_back(context);
+  return theHost->ToPath(uri);
+}
 
-std::int32_t EvaluateScript(void*, void*, const char16_t* script, std::uint32_t length, const char*,
-                            std::uint32_t, HostValue* result) {
+std::int32_t EvaluateScript(void* context, void* object, const char16_t* script,
+                            std::uint32_t length, const char*, std::uint32_t, HostValue* result) {
+  theHost->evaluationWords.emplace_back(context, object);
   return theHost->Evaluate(std::u16string(script, length), *result);
 }
 
@@ -91,7 +97,7 @@ const char16_t* FakeHost::ToText(HostValue value, std::uint32_t& length) {
   if (value == kUndefined) return nullptr;
   if (value % 2 == 1) value = Text(ToDecimal(ToInteger(value)));
   const std::u16string& text = texts_[value / 2 - 1];
-  length = static_cast<std::uint32_t>(text.size());
+  length = onLength ? onLength(text) : static_cast<std::uint32_t>(text.size());
   return text.c_str();
 }
 
@@ -105,10 +111,15 @@ std::int32_t FakeHost::Evaluate(const std::u16string& script, HostValue& result)
   if (onScript) {
     if (const auto answer = onScript(script)) {
       result = *answer;
-      return 1;
+      return onStatus ? onStatus(script) : 1;
     }
   }
   result = Answer(script);
+  return StatusOf(script);
+}
+
+std::int32_t FakeHost::StatusOf(const std::u16string& script) const {
+  if (onStatus) return onStatus(script);
   return script.find(u"exportQMVPrivate") != script.npos ? exportStatus : 1;
 }
 

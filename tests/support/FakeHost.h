@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "win/HostEnvironment.h"
@@ -49,9 +50,17 @@ class FakeHost {
   std::function<std::u16string(const std::u16string& uri)> uriToPath;
   /// Answers a script before the document does; nothing to let the document answer.
   std::function<std::optional<HostValue>(const std::u16string& script)> onScript;
+  /// Status of an evaluation; by default 1, and `exportStatus` for the export.
+  std::function<std::int32_t(const std::u16string& script)> onStatus;
+  /// The length that is reported for a text; by default its own.
+  std::function<std::uint32_t(const std::u16string& text)> onLength;
 
   /// Everything that was evaluated, in order.
   std::vector<std::u16string> scripts;
+  /// The words that came with each evaluation.
+  std::vector<std::pair<void*, void*>> evaluationWords;
+  /// The context word of every other call: conversions and paths.
+  std::vector<void*> conversionContexts;
   /// The scripts that begin so.
   std::vector<std::u16string> ScriptsBeginning(const std::u16string& beginning) const;
 
@@ -69,6 +78,7 @@ class FakeHost {
 
  private:
   HostValue Answer(const std::u16string& script);
+  std::int32_t StatusOf(const std::u16string& script) const;
   std::deque<std::u16string> texts_;
 };
 

@@ -2,6 +2,7 @@
 //   print TEXT...     prints the texts on standard output, each as it stands
 //   error TEXT        prints the text on standard error
 //   flood COUNT       prints that many bytes
+//   overflow FILE     prints without end and makes the file after the first megabyte
 //   zeros             prints bytes with a zero among them
 //   exit CODE         ends with that code
 //   arguments ...     prints what follows, one argument a line
@@ -10,12 +11,16 @@
 //   input             prints what it reads from standard input, then "end"
 //   hang              tells its process id and runs until it is killed
 //   family            starts a child that hangs, hangs itself, and both tell their process ids
+//   orphan            hangs with a grandchild that hangs and has lost its parent; both tell their
+//                     process ids
 //   leave             starts a child that hangs, tells its process id and ends
 #include <sys/types.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string>
@@ -39,11 +44,27 @@ void LeaveAChild() {
   std::cout << child;
 }
 
+void LoseAGrandchild() {
+  const pid_t child = fork();
+  if (child != 0) {
+    waitpid(child, nullptr, 0);
+  } else if (fork() != 0) {
+    _exit(0);
+  }
+}
+
 void Flood(std::size_t count) {
   const std::string line = std::string(99, 'x') + "\n";
   for (std::size_t written = 0; written < count; written += line.size()) {
     std::cout.write(line.data(), static_cast<std::streamsize>(line.size()));
   }
+}
+
+[[noreturn]] void Overflow(const std::string& file) {
+  Flood(1'000'000);
+  std::cout.flush();
+  const std::ofstream made(file);
+  while (true) Flood(1'000'000);
 }
 
 void PrintInput() {
@@ -62,6 +83,8 @@ int Run(std::string_view order, const std::vector<std::string>& values) {
     std::cerr << values.at(0);
   } else if (order == "flood") {
     Flood(std::stoul(values.at(0)));
+  } else if (order == "overflow") {
+    Overflow(values.at(0));
   } else if (order == "zeros") {
     std::cout.write("seen\0hidden", 11);
   } else if (order == "exit") {
@@ -78,6 +101,9 @@ int Run(std::string_view order, const std::vector<std::string>& values) {
     Hang();
   } else if (order == "family") {
     fork();
+    Hang();
+  } else if (order == "orphan") {
+    LoseAGrandchild();
     Hang();
   } else if (order == "leave") {
     LeaveAChild();

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <set>
 
+#include "CatalogueTexts.h"
 #include "ServicesTest.h"
 #include "platform/Catalogue.h"
 #include "win/InterfaceLanguage.h"
@@ -51,6 +52,12 @@ TEST_F(CatalogueTest, EnglishHoldsThe154RowsAndNoOthersBelowTheDialogs) {
 
 TEST_F(CatalogueTest, NoEnglishTextIsEmpty) {
   for (const std::uint32_t id : IdsOf(Of(kEnglish))) EXPECT_NE(Message(id), u"") << id;
+}
+
+TEST_F(CatalogueTest, EveryEnglishTextIsTheOneOfItsRow) {
+  EXPECT_EQ(std::size(kEnglishTexts), 154u);
+
+  for (const ExpectedText& row : kEnglishTexts) EXPECT_EQ(Message(row.id), row.text) << row.id;
 }
 
 TEST_F(CatalogueTest, LineFeedsStandWhereTheyBelong) {

@@ -6,6 +6,8 @@ namespace qutav::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::internal::CaptureStdout;
+using ::testing::internal::GetCapturedStdout;
 
 using Paths = std::vector<std::u16string>;
 
@@ -130,6 +132,30 @@ TEST_F(DescriptorImagesTest, CollectedPathsStayAsTheyAreAndMayComeTwice) {
   EXPECT_THAT(images, ElementsAre(u"before", u" a%20b.png ", u" a%20b.png "));
 }
 
+TEST_F(DescriptorImagesTest, AListedIconThatLiesDeeperComesTwice) {
+  LoadChildren("<icon><g><image72x72>a</image72x72></g></icon>");
+
+  Collect();
+
+  EXPECT_THAT(images, ElementsAre(u"a", u"a"));
+}
+
+TEST_F(DescriptorImagesTest, ADocumentWithoutRootGivesTwo) {
+  CaptureStdout();
+  Load("<!-- nothing else -->");
+  GetCapturedStdout();
+  FileTypeRecord record;
+  std::u16string types = u"old";
+
+  EXPECT_EQ(Icon("image48x48"), 2);
+  EXPECT_EQ(Collect(), 2);
+  EXPECT_EQ(CurrentDescriptor.GetFileTypeList(types), 2);
+  EXPECT_EQ(CurrentDescriptor.GetFileType(u"Movie", record), 2);
+  EXPECT_EQ(icon, u"old");
+  EXPECT_EQ(types, u"old");
+  EXPECT_TRUE(images.empty());
+}
+
 TEST_F(DescriptorImagesTest, FileTypeImagesComeFromTheLargestToTheSmallest) {
   LoadChildren(
       "<fileTypes><fileType><image16x16>16</image16x16><image32x32>32</image32x32>"
@@ -180,6 +206,14 @@ TEST_F(DescriptorImagesTest, ImagesOfASecondIconElementAreSoughtInTheFirst) {
   EXPECT_EQ(Children(),
             "<icon></icon>"
             "<icon><image36x36>c</image36x36><image72x72>d</image72x72></icon>");
+}
+
+TEST_F(DescriptorImagesTest, AnImageOfASecondIconElementTakesAnEmptyOneOfTheFirstWithIt) {
+  LoadChildren("<icon><image36x36/></icon><icon><image36x36>c</image36x36></icon>");
+
+  RemoveApplicationIcons();
+
+  EXPECT_EQ(Children(), "<icon/><icon><image36x36>c</image36x36></icon>");
 }
 
 TEST_F(DescriptorImagesTest, EmptyImagesAndFileTypeIconsAreNotRemoved) {

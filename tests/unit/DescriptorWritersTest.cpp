@@ -264,5 +264,27 @@ TEST_F(DescriptorWritersTest, TheMigratedTextIsThatOfTheCurrentDescriptor) {
   EXPECT_EQ(Children(), "<version>current</version>");
 }
 
+TEST_F(DescriptorWritersTest, WithoutAVersionInTheCurrentDescriptorTheMigratedTextIsEmpty) {
+  LoadChildren("<id>a</id>");
+  files.Put(u"C:/launch.xml", "<application><version>launch</version></application>");
+  LaunchDescriptor.InitParser();
+  LaunchDescriptor.Load(u"C:/launch.xml");
+
+  LaunchDescriptor.MigrateVersionElement();
+
+  std::u16string text = u"old";
+  EXPECT_EQ(LaunchDescriptor.GetText("version", text), 1);
+  EXPECT_EQ(LaunchDescriptor.GetText("versionNumber", text), 0);
+  EXPECT_EQ(text, u"");
+}
+
+TEST_F(DescriptorWritersTest, AnImageDeeperInTheIconGetsTheTextWhereItLies) {
+  LoadChildren("<icon><g><image48x48>old</image48x48></g></icon>");
+
+  EXPECT_EQ(CurrentDescriptor.SetGrandchildText("application", "icon", "image48x48", u"a.png"), 0);
+
+  EXPECT_EQ(Children(), "<icon><g><image48x48>a.png</image48x48></g></icon>");
+}
+
 }  // namespace
 }  // namespace qutav::test

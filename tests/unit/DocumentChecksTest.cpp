@@ -255,6 +255,22 @@ TEST_F(DocumentChecksTest, OpeningADescriptorWithTheNamespaceOfTheSdkWritesNothi
   EXPECT_THAT(files.changes, IsEmpty());
 }
 
+TEST_F(DocumentChecksTest, OpeningADescriptorWithoutANamespaceGivesItTheOneOfTheSdk) {
+  PutSample("26.0");
+
+  EXPECT_TRUE(Open("<application><id>Old</id></application>"));
+
+  EXPECT_THAT(files.BytesOf(descriptorPath),
+              HasSubstr("<application xmlns=\"http://ns.zenvoka.example/tav/application/26.0\">"));
+  EXPECT_THAT(files.changes, ElementsAre(u"write C:/m/Game-app.xml"));
+}
+
+TEST_F(DocumentChecksTest, OpeningRemembersTheDescriptorAlsoWhenItCannotBeParsed) {
+  EXPECT_FALSE(Open("<application"));
+
+  EXPECT_EQ(DocumentPaths.ActiveDescriptorPath.Text(), u"C:/m/Game-app.xml");
+}
+
 TEST_F(DocumentChecksTest, OpeningWithoutASampleLeavesTheDescriptorAlone) {
   EXPECT_TRUE(Open(DescriptorText("3.0")));
 

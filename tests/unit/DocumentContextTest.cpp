@@ -134,6 +134,26 @@ TEST_F(DocumentContextTest, ADocumentUriOf261UnitsIsRefusedInSilence) {
   EXPECT_THAT(frontEnd.messages, IsEmpty());
 }
 
+TEST_F(DocumentContextTest, ADocumentUriOf260UnitsIsTaken) {
+  documentUri = MovieUriOfLength(260);
+
+  EXPECT_TRUE(Prepare());
+
+  EXPECT_EQ(DocumentPaths.DocumentPath.Text(), documentUri.substr(8));
+}
+
+TEST_F(DocumentContextTest, TheLengthThatTheHostReportsDecidesAndNotTheText) {
+  for (const std::u16string& uri : {documentUri, movieUri}) {
+    host.onLength = [&uri](const std::u16string& text) { return text == uri ? 261u : 1u; };
+    EXPECT_FALSE(Prepare());
+
+    host.onLength = [&uri](const std::u16string& text) { return text == uri ? 260u : 1u; };
+    EXPECT_TRUE(Prepare());
+  }
+
+  EXPECT_THAT(frontEnd.messages, IsEmpty());
+}
+
 TEST_F(DocumentContextTest, AnArgumentWithoutATextIsRefusedInSilence) {
   const HostValue text = host.Text(movieUri);
 

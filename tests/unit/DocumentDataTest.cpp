@@ -240,6 +240,27 @@ TEST_F(DocumentDataTest, SavingTwoItemsOverFiveLeavesTheSurplusButLoadingGivesTw
   EXPECT_FALSE(SettingsMap.contains(Item(u"2")));
 }
 
+TEST_F(DocumentDataTest, TheItemsToRemoveAreCountedByTheDocumentAndNotByTheMap) {
+  host.data[u"com.tav.moresh.included.count"] = u"5";
+  StoreItems({u"0", u"1", u"2", u"3", u"4"});
+  SettingsSet(keys::kIncludedCount, u"2");
+  PutItems({u"0", u"1"});
+  host.onScript = [](const std::u16string& script) -> std::optional<HostValue> {
+    if (script.starts_with(u"qu.getDocumentDOM().addDataToDocument(")) return 0;
+    return {};
+  };
+
+  SaveDocumentSettings(call);
+
+  const std::vector<std::u16string> last(host.scripts.end() - 8, host.scripts.end());
+  EXPECT_THAT(last, ElementsAre(GetCall(u"com.tav.moresh.included.count"), RemoveCall(Item(u"0")),
+                                RemoveCall(Item(u"1")), RemoveCall(Item(u"2")),
+                                RemoveCall(Item(u"3")), RemoveCall(Item(u"4")),
+                                AddCall(Item(u"0"), u"new0"), AddCall(Item(u"1"), u"new1")));
+  EXPECT_EQ(host.data,
+            (std::map<std::u16string, std::u16string>{{u"com.tav.moresh.included.count", u"5"}}));
+}
+
 TEST_F(DocumentDataTest, SavingAnEmptyCountRemovesItAndLeavesAllOldItems) {
   host.data[u"com.tav.moresh.included.count"] = u"2";
   StoreItems({u"0", u"1"});
@@ -315,6 +336,14 @@ TEST_F(DocumentDataTest, TheDebugFlagIsOffWhenTheConverterGivesAnythingButOne) {
   HostEnvironment.words[6] = reinterpret_cast<std::uintptr_t>(&GiveTwo);
 
   EXPECT_EQ(GetDebugForMovie(), 0);
+}
+
+TEST_F(DocumentDataTest, TheDebugFlagIsOffWhenTheEvaluationFailedThoughItsValueIsTrue) {
+  host.debug = true;
+  for (const std::int32_t status : {0, -1, 2}) {
+    host.onStatus = [status](const std::u16string&) { return status; };
+    EXPECT_EQ(GetDebugForMovie(), 0);
+  }
 }
 
 TEST_F(DocumentDataTest, SettingTheDebugFlagPassesTwoWords) {

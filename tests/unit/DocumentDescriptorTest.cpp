@@ -108,6 +108,14 @@ TEST_F(DocumentDescriptorTest, AnEarlyMilestoneIsReplacedFromTheSettings) {
   EXPECT_TRUE(frontEnd.messages.empty());
 }
 
+TEST_F(DocumentDescriptorTest, AnEarlyMilestoneIsReplacedOnce) {
+  files.Put(path, kMilestone);
+
+  EXPECT_EQ(LoadDocumentDescriptor(false), 0);
+
+  EXPECT_EQ(files.changes, std::vector<std::u16string>{u"write C:/m/Game-app.xml"});
+}
+
 TEST_F(DocumentDescriptorTest, AnEarlyMilestoneThatCannotBeReplacedIsToldOnce) {
   files.Put(path, kMilestone);
   files.readOnly.insert(path);
@@ -147,6 +155,15 @@ TEST_F(DocumentDescriptorTest, SavingWritesTheDescriptorBesideTheMovie) {
 
 TEST_F(DocumentDescriptorTest, SavingWithoutADescriptorGivesItsFailure) {
   EXPECT_EQ(SaveDocumentDescriptor(), -1);
+}
+
+TEST_F(DocumentDescriptorTest, AFileThatCannotBeParsedIsToldInOneBoxOverTheFocusWindow) {
+  files.Put(path, "<other/>");
+
+  EXPECT_NE(LoadDocumentDescriptor(true), 0);
+
+  ExpectParseWarning();
+  EXPECT_EQ(frontEnd.messages.front().owner, frontEnd.focus);
 }
 
 }  // namespace

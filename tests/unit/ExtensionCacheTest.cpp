@@ -11,6 +11,20 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+// Keeps the paths that are to go as they were given.
+class DeletionRecord : public MemoryFiles {
+ public:
+  bool Delete(const std::u16string& path) override {
+    paths.push_back(path);
+    return true;
+  }
+  bool RemoveFolder(const std::u16string& path) override {
+    paths.push_back(path);
+    return true;
+  }
+  std::vector<std::u16string> paths;
+};
+
 class ExtensionCacheTest : public ServicesTest {
  protected:
   ExtensionCacheTest() {
@@ -79,6 +93,15 @@ TEST_F(ExtensionCacheTest, ARelativePathIsTakenFromTheFolderOfTheDocument) {
   EXPECT_TRUE(Scan(u"lib/a.zux;"));
 
   EXPECT_THAT(ExtensionFilePaths, ElementsAre(u"C:\\docs\\lib\\a.zux"));
+}
+
+TEST_F(ExtensionCacheTest, AnExistingBareNameStandsAsItIsBeforeOneBesideTheDocument) {
+  Put({u"C:/current/a.zux", u"C:/docs/a.zux"});
+
+  EXPECT_TRUE(Scan(u"a.zux"));
+
+  EXPECT_THAT(ExtensionFilePaths, ElementsAre(u"a.zux"));
+  EXPECT_THAT(ExtensionFileNames, ElementsAre(u"a.zux.zux"));
 }
 
 TEST_F(ExtensionCacheTest, AnAbsolutePathWithForwardSlashesIsKeptAndListedWhole) {
@@ -233,6 +256,19 @@ TEST_F(ExtensionCacheTest, RemovingDeletesEveryCopyAndThenTheFolder) {
                                          u"delete C:/temp/Game_ZUX_Cache/b.zux",
                                          u"remove C:/temp/Game_ZUX_Cache"));
   EXPECT_FALSE(files.Exists(u"C:/temp/Game_ZUX_Cache"));
+}
+
+TEST_F(ExtensionCacheTest, RemovingNamesEachCopyBehindTwoBackslashes) {
+  DeletionRecord record;
+  TheServices().files = &record;
+  ExtensionCacheFolder = u"C:\\temp\\Game_ZUX_Cache\\";
+  ExtensionFileNames = {u"a.zux", u"b.zux"};
+
+  RemoveExtensionsFromPackagingFolder();
+
+  EXPECT_THAT(record.paths,
+              ElementsAre(u"C:\\temp\\Game_ZUX_Cache\\\\a.zux",
+                          u"C:\\temp\\Game_ZUX_Cache\\\\b.zux", u"C:\\temp\\Game_ZUX_Cache\\"));
 }
 
 TEST_F(ExtensionCacheTest, RemovingLeavesWhatItDidNotCopy) {

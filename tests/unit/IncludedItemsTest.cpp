@@ -120,5 +120,12 @@ TEST_F(IncludedItemsTest, ItemsBeyondTheCountAreNotIncluded) {
   EXPECT_EQ(Items(), u" -C \"C:/m/\" \"a.txt\" ");
 }
 
+TEST_F(IncludedItemsTest, AFolderThatDiffersFromTheMoviesInCaseOnlyIsAnotherFolder) {
+  files.Put(u"C:/M/data/levels.xml");
+  SetItems({u"C:/M/data/levels.xml"});
+
+  EXPECT_EQ(Items(), u" -C \"C:/M/data/\" \"levels.xml\" ");
+}
+
 }  // namespace
 }  // namespace qutav::test

@@ -262,5 +262,28 @@ TEST_F(ManifestAdditionsTest, EveryAndroidElementIsSearchedForInternet) {
   EXPECT_TRUE(MayUseInternet());
 }
 
+TEST_F(ManifestAdditionsTest, AnotherRootThanApplicationIsReadAndNotSearchedForInternet) {
+  EXPECT_EQ(Load("<foo><android><manifestAdditions><![CDATA[<manifest><uses-permission "
+                 "android:name=\"android.permission.INTERNET\"/></manifest>]]>"
+                 "</manifestAdditions></android></foo>"),
+            kNoApplication);
+
+  EXPECT_FALSE(MayUseInternet());
+  EXPECT_THAT(Permissions(), ElementsAre(u"INTERNET"));
+}
+
+TEST_F(ManifestAdditionsTest, OneSectionTakesThePlaceOfEverythingThatStoodThere) {
+  LoadChildren(
+      "<android><manifestAdditions> a <![CDATA[<manifest/>]]><x><y>b</y><![CDATA[c]]></x>"
+      "<!-- d --><![CDATA[<manifest/>]]> e <z/></manifestAdditions></android>");
+
+  EXPECT_TRUE(CurrentDescriptor.SetManifestPermissions({u"CAMERA"}));
+
+  EXPECT_EQ(Children(),
+            "<android><manifestAdditions><![CDATA[<manifest>"
+            "<uses-permission android:name=\"android.permission.CAMERA\"/>"
+            "</manifest>]]></manifestAdditions></android>");
+}
+
 }  // namespace
 }  // namespace qutav::test

@@ -122,5 +122,13 @@ TEST_F(PackageDestinationTest, ABareNameIsUsableOnlyWhenItExists) {
   EXPECT_FALSE(DestinationUsable(u""));
 }
 
+TEST_F(PackageDestinationTest, AnIosPackageWithoutADestinationOverwritesTheAndroidOne) {
+  SetDestination(u"C:/m/Other.apk");
+
+  EXPECT_EQ(Ipa(), u"C:/m/My App.ipa");
+
+  EXPECT_EQ(SettingsGet(keys::kTavDestination), u"My App.apk");
+}
+
 }  // namespace
 }  // namespace qutav::test

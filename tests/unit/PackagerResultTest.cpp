@@ -216,5 +216,17 @@ TEST_F(PackagerResultTest, ASuccessWithOutputIsReportedAsAWarning) {
             u"The APK was packaged successfully, but a warning occurred.\n\nHead.\nDetail");
 }
 
+TEST_F(PackagerResultTest, TheUsageTextIsCutFromTheDetailOfAnUnexpectedElement) {
+  ExpectResult(Classify(1, u"x.xml: error 103: bogus\nusage: tool -x"),
+               u"Unexpected or unknown element or attribute in the application descriptor file.",
+               u"\n bogus\n");
+}
+
+TEST_F(PackagerResultTest, AWrongPasswordTakesThePlaceOfTheDetailOfAnUnexpectedElement) {
+  ExpectResult(Classify(1, u"x.xml: error 103: bogus, password may be incorrect"),
+               u"Unexpected or unknown element or attribute in the application descriptor file.",
+               u"\nCould not load keystore file (password may be incorrect)");
+}
+
 }  // namespace
 }  // namespace qutav::test

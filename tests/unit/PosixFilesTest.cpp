@@ -62,6 +62,31 @@ TEST_F(PosixFilesTest, AnOverwrittenFileKeepsItsPermissions) {
   EXPECT_EQ(folder.EntryCount(), 1u);
 }
 
+TEST_F(PosixFilesTest, AnOverwrittenFileKeepsItsOwnerAndGroup) {
+  folder.Put("a", "old");
+  const bool mayGiveAway = geteuid() == 0;
+  const uid_t owner = mayGiveAway ? 65534 : geteuid();
+  const gid_t group = mayGiveAway ? 65534 : getegid();
+  ASSERT_EQ(chown(folder.Native("a").c_str(), owner, group), 0);
+
+  EXPECT_TRUE(files.Write(folder.Path("a"), "new"));
+
+  struct stat status {};
+  ASSERT_EQ(stat(folder.Native("a").c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, owner);
+  EXPECT_EQ(status.st_gid, group);
+}
+
+TEST_F(PosixFilesTest, AFileWithALongNameIsWrittenAndOverwritten) {
+  const std::string name(250, 'n');
+
+  EXPECT_TRUE(files.Write(folder.Path(name), "old"));
+  EXPECT_TRUE(files.Write(folder.Path(name), "new"));
+
+  EXPECT_EQ(folder.BytesOf(name), "new");
+  EXPECT_EQ(folder.EntryCount(), 1u);
+}
+
 TEST_F(PosixFilesTest, ALinkIsFollowedAndStaysALink) {
   fs::create_directory(folder.Native("real"));
   folder.Put("real/a", "old");

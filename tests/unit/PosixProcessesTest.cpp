@@ -339,5 +339,52 @@ TEST_F(PosixProcessesTest, TheCommandLinesOfThisSystemAreItsOwn) {
   EXPECT_EQ(SystemProcesses().HeadSeparator(), u'/');
 }
 
+// Lets the system collect children by itself until the test is over.
+class IgnoredChildSignal {
+ public:
+  IgnoredChildSignal() : old_(std::signal(SIGCHLD, SIG_IGN)) {}
+  ~IgnoredChildSignal() { std::signal(SIGCHLD, old_); }
+  IgnoredChildSignal(const IgnoredChildSignal&) = delete;
+  IgnoredChildSignal& operator=(const IgnoredChildSignal&) = delete;
+
+ private:
+  void (*old_)(int);
+};
+
+TEST_F(PosixProcessesTest, ACodeThatTheSystemDidNotKeepIsNoSuccess) {
+  const IgnoredChildSignal ignored;
+
+  EXPECT_EQ(RunChild(u"print done"), 255);
+
+  EXPECT_EQ(output, u"done");
+}
+
+TEST_F(PosixProcessesTest, CancellingKillsAGrandchildWhoseParentHasEnded) {
+  PolledByte cancel{0};
+  yielding.onSleep = [&] { cancel = LinesIn(output) == 2 ? 1 : 0; };
+
+  EXPECT_EQ(RunChild(u"orphan", &cancel), kExitCodeOfKilled);
+
+  const auto ids = ProcessIdsIn(output);
+  ASSERT_EQ(ids.size(), 2u);
+  EXPECT_TRUE(Ends(ids[0]));
+  EXPECT_TRUE(Ends(ids[1]));
+}
+
+TEST_F(PosixProcessesTest, AChildThatPrintsWithoutEndCanBeCancelled) {
+  const TemporaryFolder folder;
+  PolledByte cancel{0};
+  std::thread canceller([&] {
+    Eventually([&] { return fs::exists(folder.Native("started")); });
+    cancel = 1;
+  });
+
+  EXPECT_EQ(RunChild(u"overflow \"" + FromUtf8(folder.Native("started").string()) + u"\"", &cancel),
+            kExitCodeOfKilled);
+
+  canceller.join();
+  EXPECT_GE(output.size(), 900'000u);
+}
+
 }  // namespace
 }  // namespace qutav::test

@@ -122,6 +122,19 @@ TEST_F(PosixRegistryTest, ADamagedFileIsSetAside) {
   EXPECT_THAT(AllValues(), ElementsAre(u"7936"));
 }
 
+TEST_F(PosixRegistryTest, EachDamagedFileIsKeptUnderANameOfItsOwn) {
+  fs::create_directory(folder.Native("qutav"));
+  for (const char* damaged : {"first", "second", "third"}) {
+    folder.Put(kFile, damaged);
+    Open()->Set(u"usbPort", u"7936");
+  }
+
+  EXPECT_EQ(folder.BytesOf("qutav/registry.json.damaged"), "first");
+  EXPECT_EQ(folder.BytesOf("qutav/registry.json.damaged2"), "second");
+  EXPECT_EQ(folder.BytesOf("qutav/registry.json.damaged3"), "third");
+  EXPECT_THAT(AllValues(), ElementsAre(u"7936"));
+}
+
 TEST_F(PosixRegistryTest, AFileOfAnotherKindIsSetAside) {
   fs::create_directory(folder.Native("qutav"));
   folder.Put(kFile, "[1, 2]");

@@ -238,5 +238,126 @@ TEST_F(ProcessRunnerTest, MegabytesOfOutputComeWhole) {
   EXPECT_EQ(output.size(), 5'000'007u);
 }
 
+// What a pipe that misbehaves does, and what was done to the child behind it.
+struct OddRun {
+  bool readsNothing = false;
+  bool cannotTell = false;  ///< how many bytes wait
+  bool closeFails = false;
+  int bytesPending = 0;            ///< a read gives one of them
+  std::function<void()> onRead{};  ///< runs at every read
+  int roundsRunning = 0;
+  int reads = 0;
+  int looks = 0;
+  int waits = 0;
+  std::vector<std::u16string> commandLines;
+};
+
+class OddPipe : public OutputPipe {
+ public:
+  explicit OddPipe(OddRun& run) : run_(run) {}
+  bool CloseWriteEnd() override { return !run_.closeFails; }
+  std::optional<std::size_t> BytesWaiting() override {
+    if (run_.cannotTell) return {};
+    return run_.readsNothing ? 5 : static_cast<std::size_t>(run_.bytesPending);
+  }
+  std::size_t Read(char* buffer, std::size_t) override {
+    ++run_.reads;
+    if (run_.onRead) run_.onRead();
+    if (run_.bytesPending == 0) return 0;
+    --run_.bytesPending;
+    *buffer = 'x';
+    return 1;
+  }
+
+ private:
+  OddRun& run_;
+};
+
+class OddChild : public ChildProcess {
+ public:
+  explicit OddChild(OddRun& run) : run_(run) {}
+  std::uint32_t Id() const override { return 7; }
+  std::uint32_t ExitCode() override { return run_.looks++ < run_.roundsRunning ? kStillActive : 3; }
+  void Wait() override { ++run_.waits; }
+
+ private:
+  OddRun& run_;
+};
+
+class OddProcesses : public FakeProcesses {
+ public:
+  explicit OddProcesses(OddRun& run) : run_(run) {}
+  std::unique_ptr<OutputPipe> CreateOutputPipe() override {
+    return std::make_unique<OddPipe>(run_);
+  }
+  std::unique_ptr<ChildProcess> Start(const std::u16string& commandLine, OutputPipe*) override {
+    run_.commandLines.push_back(commandLine);
+    return std::make_unique<OddChild>(run_);
+  }
+
+ private:
+  OddRun& run_;
+};
+
+class ProcessRunnerOddPipeTest : public ProcessRunnerTest {
+ protected:
+  ProcessRunnerOddPipeTest() { TheServices().processes = &odd; }
+
+  void ExpectPollingToTheEnd() {
+    run.roundsRunning = 2;
+    EXPECT_EQ(RunCaptured(), 3);
+    EXPECT_EQ(output, u"before;");
+    EXPECT_EQ(run.waits, 1);
+    EXPECT_THAT(clock.Sleeps(), ElementsAre(milliseconds(500), milliseconds(500)));
+  }
+
+  OddRun run;
+  OddProcesses odd{run};
+};
+
+TEST_F(ProcessRunnerOddPipeTest, APipeThatGivesNothingWhileBytesWaitIsLookedAtAgainLater) {
+  run.readsNothing = true;
+
+  ExpectPollingToTheEnd();
+
+  EXPECT_EQ(run.reads, 3) << "once a round and once after the end";
+}
+
+TEST_F(ProcessRunnerOddPipeTest, APipeThatCannotTellWhatWaitsIsNotReadAndThePollingGoesOn) {
+  run.cannotTell = true;
+
+  ExpectPollingToTheEnd();
+
+  EXPECT_EQ(run.reads, 0);
+}
+
+TEST_F(ProcessRunnerOddPipeTest, AChildWhoseWriteEndCannotBeClosedIsNeitherKilledNorWaitedFor) {
+  run.closeFails = true;
+  run.roundsRunning = 5;
+  const PolledByte cancel{1};
+
+  EXPECT_EQ(RunCaptured(&cancel), -1);
+
+  EXPECT_THAT(run.commandLines, ElementsAre(u"tool -x"));
+  EXPECT_EQ(run.waits, 0);
+  EXPECT_EQ(run.reads, 0);
+  EXPECT_THAT(clock.Sleeps(), IsEmpty());
+}
+
+TEST_F(ProcessRunnerOddPipeTest, AChildThatPrintsFasterThanItIsReadCanBeCancelled) {
+  run.bytesPending = 1000;
+  run.roundsRunning = 2;
+  PolledByte cancel{0};
+  std::size_t readBeforeTheKill = 0;
+  run.onRead = [&] { cancel = run.reads == 100 ? 1 : 0; };
+  clock.onSleep = [&] { readBeforeTheKill = output.size(); };
+
+  EXPECT_EQ(RunCaptured(&cancel), 3);
+
+  EXPECT_EQ(readBeforeTheKill, std::u16string(u"before;").size() + 100);
+  EXPECT_EQ(run.commandLines.at(1), u"taskkill /PID 7 /F /T");
+  EXPECT_EQ(output.size(), std::u16string(u"before;").size() + 1000) << "the rest comes at the end";
+}
+
 }  // namespace
 }  // namespace qutav::test

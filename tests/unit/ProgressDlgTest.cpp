@@ -186,5 +186,12 @@ TEST_F(ProgressDlgTest, IsCentredOnTheDesktopWhenTheActiveWindowIsJustAsLarge) {
   ExpectPlace(810, 490);
 }
 
+TEST_F(ProgressDlgTest, TheBarRunsTo100AndMovesEvery50Milliseconds) {
+  dialog.Create();
+
+  EXPECT_EQ(Bar().rangeEnd, 100);
+  EXPECT_EQ(Bar().marqueeStep, std::chrono::milliseconds(50));
+}
+
 }  // namespace
 }  // namespace qutav::test

@@ -67,6 +67,18 @@ TEST_F(PublishCommandOnDeviceTest, WithoutAnAnswerThereIsNoSelectedDevice) {
   EXPECT_EQ(DebugDeviceSerial, u"");
 }
 
+TEST_F(PublishCommandOnDeviceTest, TheNumberZeroNamesNoDevice) {
+  DebugDeviceSerial = u"OLD";
+  host.onScript = [this](const std::u16string& script) -> std::optional<HostValue> {
+    if (script.find(u"getSelectedDevice(") == script.npos) return {};
+    return host.Integer(0);
+  };
+
+  Test();
+
+  EXPECT_EQ(DebugDeviceSerial, u"");
+}
+
 TEST_F(PublishCommandOnDeviceTest, TestingSetsItsMarksForTheLengthOfTheRun) {
   Test();
 
@@ -125,6 +137,35 @@ TEST_F(PublishCommandOnDeviceTest, ATypeChangedOnTheSheetDuringTheRunIsRespected
   Debug();
 
   EXPECT_EQ(SettingsGet(u"com.tav.pelund.publishtype"), u"release-emulator");
+}
+
+TEST_F(PublishCommandOnDeviceTest, TheSheetsOkSavesThePublishTypeOfBeforeAndThenTheSessionEnds) {
+  SettingsSet(keys::kCertificatePath, u"");
+  frontEnd.onSheet = [](CPropertySheet& sheet) {
+    sheet.PutSetting(keys::kTavDestination, u"C:/out/");
+    PressButton(sheet, u"OK");
+  };
+
+  Debug();
+
+  EXPECT_EQ(host.data[u"com.tav.pelund.publishtype"], u"release");
+  EXPECT_EQ(host.data[u"com.tav.moresh.tavdest"], u"C:/out/");
+  EXPECT_THAT(host.ScriptsBeginning(u"qu.getDocumentDOM().addDataToDocument("),
+              Contains(u"qu.getDocumentDOM().addDataToDocument(\"com.tav.pelund.publishtype\", "
+                       u"\"string\", \"release\");"));
+  EXPECT_THAT(SessionScripts(), ElementsAre(kEndSession));
+  EXPECT_EQ(host.scripts.back(), kEndSession);
+}
+
+TEST_F(PublishCommandOnDeviceTest, BothRunsInstallAndLaunchWhateverTheDocumentAsksFor) {
+  for (const char16_t* command : {u"testOnDevice", u"debugOnDevice"}) {
+    SettingsSet(keys::kAdbOption, u"nothing");
+    atPackaging.clear();
+
+    Run(command);
+
+    EXPECT_EQ(atPackaging[u"com.tav.pelund.adbopt"], u"launch");
+  }
 }
 
 TEST_F(PublishCommandOnDeviceTest, TestingLeavesLaunchBehindInTheInstallOption) {
@@ -192,6 +233,14 @@ TEST_F(PublishCommandOnDeviceTest, TheSessionTakesItsPortFromTheRegistry) {
   Debug();
 
   EXPECT_THAT(SessionScripts(), ElementsAre(u"qu.beginPortDebugSession(8000);"));
+}
+
+TEST_F(PublishCommandOnDeviceTest, WithoutARegistryTheSessionBeginsAtPortZero) {
+  registry.refuses = true;
+
+  Debug();
+
+  EXPECT_THAT(SessionScripts(), ElementsAre(u"qu.beginPortDebugSession(0);"));
 }
 
 TEST_F(PublishCommandOnDeviceTest, ADebugRunThatFailsEndsTheSessionAndUndoesItsSettings) {

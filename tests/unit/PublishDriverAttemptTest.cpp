@@ -365,5 +365,21 @@ TEST_F(PublishDriverAttemptTest, AnErrorThatNobodyForesawEndsTheRunAndNotTheHost
   EXPECT_THAT(frontEnd.Texts(), Contains(u"Error creating files.\n\nUnknown error.\n"));
 }
 
+TEST_F(PublishDriverAttemptTest, AWorkersDeviceErrorIsInTheLanguageOfTheScriptThread) {
+  SettingsSet(keys::kAdbOption, u"install");
+  SettingsSet(keys::kInstallDevices, u"A:");
+  processes.play = [](const std::u16string& line) {
+    if (line.ends_with(u" devices")) return PlayedAnswer{"A\tdevice\n", 0};
+    return line.find(u"-installApp") == line.npos ? PlayedAnswer{} : PlayedAnswer{"", 12};
+  };
+  language.SetThreadInterfaceLanguage(1062);
+
+  EXPECT_EQ(Publish(), 0);
+
+  EXPECT_THAT(frontEnd.Texts(),
+              ElementsAre(u"[su] $_Device Serial Number_#A : [su] $_Unable to install the "
+                          u"application. Ensure that the selected devices are connected._#\n\n"));
+}
+
 }  // namespace
 }  // namespace qutav::test

@@ -242,5 +242,42 @@ TEST_F(PublishDriverExtensionsTest, ARunThatStopsAtTheQuestionCopiesNothing) {
   EXPECT_FALSE(files.HasFile(kCopy));
 }
 
+TEST_F(PublishDriverExtensionsTest, PasswordsAndCopiesAreThereWhileTheReportIsShown) {
+  std::u16string password;
+  std::u16string iosPassword;
+  bool hasCopy = false;
+  frontEnd.onMessage = [&](const MessageBoxRequest&) {
+    password = SettingsGet(keys::kCertificatePassword);
+    iosPassword = SettingsGet(keys::kIpaCertificatePassword);
+    hasCopy = files.HasFile(kCopy);
+  };
+  PlayTool(1, "bad");
+
+  EXPECT_EQ(Publish(), 0);
+
+  ExpectWarning(u"Error creating files.\n\nbad");
+  EXPECT_EQ(password, u"PASSWORD");
+  EXPECT_EQ(iosPassword, u"PASSWORD");
+  EXPECT_TRUE(hasCopy);
+  EXPECT_FALSE(SettingsMap.contains(keys::kCertificatePassword));
+  EXPECT_FALSE(SettingsMap.contains(keys::kIpaCertificatePassword));
+  EXPECT_FALSE(files.HasFile(kCopy));
+}
+
+TEST_F(PublishDriverExtensionsTest, ImagesComeBeforeIncludedItemsAndExtensionsLast) {
+  PutDescriptor("<name>Game</name><icon><image48x48>icons/a.png</image48x48></icon>");
+  files.Put(u"C:/m/icons/a.png");
+  files.Put(u"C:/m/data/levels.xml");
+  SettingsSet(keys::kIncludedCount, u"1");
+  SettingsSet(keys::kIncludedItem + std::u16string(u"0"), u"data/levels.xml");
+
+  EXPECT_EQ(PublishedCommand(PublishTargetApk),
+            std::u16string(kToolHead) +
+                u" -package -target apk-captive-runtime -arch armv7 -storetype PKCS12 -keystore "
+                u"\"C:/k/my.p12\" -storepass \"PASSWORD\" \"C:/m/Game.apk\" "
+                u"\"C:/m/Game-app.xml\" -C \"C:/m/\" \"Game.qmv\" \"icons/a.png\"  -C \"C:/m/\" "
+                u"\"data/levels.xml\"  -extdir \"C:/temp/Game_ZUX_Cache/\" ");
+}
+
 }  // namespace
 }  // namespace qutav::test

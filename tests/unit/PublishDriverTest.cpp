@@ -345,5 +345,73 @@ TEST_F(PublishDriverOrderTest, TheFirstOfSeveralFaultsOfAnIosRunIsTheOneTold) {
                   [] { SettingsSet(keys::kIpaDestination, u"Game.ipa"); }}});
 }
 
+TEST_F(PublishDriverTest, APublishForTheInterpreterNeedsNoInternetPermission) {
+  SettingsSet(keys::kPublishType, u"debuginterpreter");
+
+  EXPECT_EQ(Publish(), 1);
+}
+
+TEST_F(PublishDriverTest, TheDefaultDestinationStaysAfterARunThatStoppedAtTheQuestion) {
+  IncludeMissingFiles(1);
+  frontEnd.answer = kIdCancel;
+
+  ExpectStop();
+
+  EXPECT_EQ(SettingsGet(keys::kTavDestination), u"Game.apk");
+}
+
+class PublishDriverCustomDescriptorTest : public PublishDriverTest {
+ protected:
+  PublishDriverCustomDescriptorTest() {
+    SettingsSet(keys::kUseCustomDescriptor, u"true");
+    SettingsSet(keys::kCustomDescriptorPath, u"D:/own/own.xml");
+  }
+};
+
+TEST_F(PublishDriverCustomDescriptorTest, TheMoviesOwnDescriptorIsStillGenerated) {
+  files.Delete(u"C:/m/Game-app.xml");
+
+  EXPECT_EQ(PublishedCommand(PublishTargetApk),
+            std::u16string(kToolHead) +
+                u" -package -target apk-captive-runtime -arch armv7 -storetype PKCS12 -keystore "
+                u"\"C:/k/my.p12\" -storepass \"PASSWORD\" \"C:/m/Game.apk\" \"D:/own/own.xml\" "
+                u"-C \"C:/m/\" \"Game.qmv\" ");
+  EXPECT_TRUE(files.HasFile(u"C:/m/Game-app.xml"));
+}
+
+TEST_F(PublishDriverCustomDescriptorTest, TheNameIsThatOfTheMoviesOwnDescriptor) {
+  files.Put(u"D:/own/own.xml",
+            "<application xmlns=\"http://ns.zenvoka.example/tav/application/26.0\">"
+            "<name>Custom</name></application>");
+
+  EXPECT_EQ(Publish(), 1);
+  EXPECT_EQ(SettingsGet(keys::kTavDestination), u"Game.apk");
+
+  PutDescriptor("<id>com.game</id>");
+  EXPECT_EQ(Publish(), 0);
+  EXPECT_EQ(frontEnd.Texts().back(), u"The application name is missing.");
+}
+
+TEST_F(PublishDriverCustomDescriptorTest, PermissionAndIconsAreThoseOfTheMoviesOwnDescriptor) {
+  PutDescriptor("<name>Game</name><icon><image48x48>gone.png</image48x48></icon>");
+  ExpectStop();
+  ExpectWarning(u"Icon file is missing.\ngone.png");
+
+  frontEnd.messages.clear();
+  SettingsSet(keys::kPublishType, u"debug");
+  ExpectStop();
+  ExpectWarning(kPermissionNeeded);
+}
+
+TEST_F(PublishDriverCustomDescriptorTest, TheCustomFileIsNeitherReadNorWritten) {
+  files.Put(u"D:/own/own.xml", "no descriptor at all");
+  files.changes.clear();
+
+  EXPECT_EQ(Publish(), 1);
+
+  EXPECT_EQ(files.BytesOf(u"D:/own/own.xml"), "no descriptor at all");
+  EXPECT_THAT(files.changes, IsEmpty());
+}
+
 }  // namespace
 }  // namespace qutav::test

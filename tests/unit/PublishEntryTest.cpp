@@ -146,6 +146,15 @@ TEST_F(PublishEntryTest, TheTextSignAsksForACertificateAsAnEmptyOneDoes) {
   EXPECT_THAT(sheetPages, ElementsAre(1));
 }
 
+TEST_F(PublishEntryTest, TheTextSignInAnotherCasePassesWithoutACertificate) {
+  SetRegistryString(u"DigitalSign", u"Sign");
+  SetKeystore(u"", u"");
+
+  EXPECT_EQ(PublishEntry(), 1);
+
+  EXPECT_THAT(sheetPages, IsEmpty());
+}
+
 TEST_F(PublishEntryTest, PreparingDoesNotFreeIosFromItsCertificate) {
   SetTargets(u"true", u"", u"");
   SetRegistryString(u"DigitalSign", u"prepare");

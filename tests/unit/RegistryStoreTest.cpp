@@ -141,6 +141,18 @@ TEST_F(RegistryStoreTest, WithTenStoredANewPathOverwritesTheFirst) {
   EXPECT_EQ(Stored().size(), 10u);
 }
 
+TEST_F(RegistryStoreTest, WithMoreStoredThanTheLimitNewPathsOverwriteFromTheFirst) {
+  PutOld(12);
+
+  SaveRegistryFileList(kList, kLimit, {u"a", u"b"});
+
+  EXPECT_EQ(ValueOf(u"file1"), u"a");
+  EXPECT_EQ(ValueOf(u"file2"), u"b");
+  EXPECT_EQ(ValueOf(u"file3"), u"old3");
+  EXPECT_EQ(ValueOf(u"file12"), u"old12");
+  EXPECT_EQ(Stored().size(), 12u);
+}
+
 TEST_F(RegistryStoreTest, OneMoreThanTheLimitIsWrittenAndNoMore) {
   Paths list;
   for (char16_t c = u'a'; c <= u'm'; ++c) list.emplace_back(1, c);

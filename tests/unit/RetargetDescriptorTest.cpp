@@ -93,5 +93,40 @@ TEST_F(RetargetDescriptorTest, AFileThatCannotBeParsedIsShown) {
   EXPECT_EQ(files.BytesOf(kPath), "<application>");
 }
 
+TEST_F(RetargetDescriptorTest, AFileThatCannotBeWrittenIsPassedOverAndClosed) {
+  PutDescriptor("<name>Old</name>");
+  const std::string old = files.BytesOf(kPath);
+  files.readOnly.insert(u"C:/docs/My Game-app.xml");
+
+  CaptureStdout();
+  EXPECT_TRUE(RetargetDescriptor());
+  GetCapturedStdout();
+
+  EXPECT_FALSE(CurrentDescriptor.IsParserReady());
+  EXPECT_EQ(files.BytesOf(kPath), old);
+  EXPECT_TRUE(frontEnd.messages.empty());
+}
+
+TEST_F(RetargetDescriptorTest, AnEarlyFormatThatCannotBeReplacedIsShownOnce) {
+  files.Put(kPath, "<application xmlns=\"http://h/1.0.M5\"><id>old</id></application>");
+  files.readOnly.insert(u"C:/docs/My Game-app.xml");
+
+  EXPECT_FALSE(RetargetDescriptor());
+
+  EXPECT_THAT(frontEnd.Texts(), ElementsAre(u"Application descriptor file cannot be parsed."));
+}
+
+TEST_F(RetargetDescriptorTest, TheNameOfAFileTypeAheadGetsTheNewName) {
+  PutDescriptor(
+      "<fileTypes><fileType><name>Movie</name></fileType></fileTypes><name>Old</name>"
+      "<filename>Old</filename>");
+
+  EXPECT_TRUE(RetargetDescriptor());
+
+  EXPECT_EQ(WrittenChildren(),
+            "<fileTypes><fileType><name>My Game</name></fileType></fileTypes><name>Old</name>"
+            "<filename>My Game</filename>");
+}
+
 }  // namespace
 }  // namespace qutav::test

@@ -209,5 +209,16 @@ TEST_F(SettingsMapTest, ClearingIncludedItemsWithoutACountErasesNothing) {
   }
 }
 
+TEST_F(SettingsMapTest, ACountOfIncludedItemsIsCappedAndOtherwiseKept) {
+  EXPECT_EQ(IncludedItemCount(u"2147483647"), 65536);
+  EXPECT_EQ(IncludedItemCount(u"65537"), 65536);
+  EXPECT_EQ(IncludedItemCount(u"65536"), 65536);
+  EXPECT_EQ(IncludedItemCount(u"65535"), 65535);
+  EXPECT_EQ(IncludedItemCount(u"2"), 2);
+  EXPECT_EQ(IncludedItemCount(u"0"), 0);
+  EXPECT_EQ(IncludedItemCount(u"-1"), -1);
+  EXPECT_EQ(IncludedItemCount(u"-2147483647"), -2147483647);
+}
+
 }  // namespace
 }  // namespace qutav::test

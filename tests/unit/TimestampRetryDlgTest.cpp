@@ -46,5 +46,15 @@ TEST_F(TimestampRetryDlgTest, TellsTheErrorAndTheConsequenceBeforeItsButtons) {
                           u"Disable Timestamping", u"Retry", u"Cancel"));
 }
 
+TEST_F(TimestampRetryDlgTest, OnlyRetryIsMarkedAsTheDefaultButton) {
+  CTimestampRetryDlg dialog(nullptr);
+
+  std::vector<std::u16string> defaults;
+  for (const Control& control : dialog.Controls()) {
+    if (control.isDefault) defaults.push_back(control.label);
+  }
+  EXPECT_THAT(defaults, ElementsAre(u"Retry"));
+}
+
 }  // namespace
 }  // namespace qutav::test

@@ -22,7 +22,8 @@ std::string ReadSecretFile(const std::string& path) {
   std::ostringstream bytes;
   bytes << stream.rdbuf();
   std::string text = std::move(bytes).str();
-  if (text.ends_with('\n')) text.pop_back();
+  if (!text.ends_with('\n')) return text;
+  text.pop_back();
   if (text.ends_with('\r')) text.pop_back();
   return text;
 }
@@ -56,6 +57,13 @@ std::optional<Value> ReadOptional(const json& answer, const char* member) {
   return answer.at(member).get<Value>();
 }
 
+std::optional<unsigned> ReadAfter(const json& answer) {
+  const auto ticks = ReadOptional<int>(answer, "after");
+  if (!ticks) return {};
+  if (*ticks < 0) throw std::runtime_error("\"after\" is a number of ticks, 0 or more");
+  return static_cast<unsigned>(*ticks);
+}
+
 std::vector<std::string> ReadPress(const json& answer) {
   if (!answer.contains("press")) return {};
   const json& press = answer.at("press");
@@ -82,7 +90,7 @@ ScriptAnswer ReadAnswer(const json& source) {
   answer.set = ReadValues(source, "set");
   answer.settings = ReadValues(source, "settings");
   answer.registry = ReadValues(source, "registry");
-  answer.after = ReadOptional<unsigned>(source, "after");
+  answer.after = ReadAfter(source);
   answer.press = ReadPress(source);
   answer.repeat = ReadOptional<bool>(source, "repeat").value_or(false);
   if (answer.to != "message" && answer.to != "dialog" && answer.to != "sheet") {
@@ -104,7 +112,11 @@ AnswerScript AnswerScript::Parse(const json& script) {
   if (!script.is_object() || !script.contains("answers") || !script["answers"].is_array()) {
     throw std::runtime_error("a script is an object with a list \"answers\"");
   }
-  for (const json& answer : script["answers"]) parsed.answers_.push_back(ReadAnswer(answer));
+  try {
+    for (const json& answer : script["answers"]) parsed.answers_.push_back(ReadAnswer(answer));
+  } catch (const json::exception& mistake) {
+    throw std::runtime_error(mistake.what());
+  }
   return parsed;
 }
 

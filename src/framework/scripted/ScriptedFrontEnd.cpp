@@ -49,6 +49,14 @@ bool FillControl(Control& control, const std::string& value) {
   return control.kind == ControlKind::kEdit || control.kind == ControlKind::kPassword;
 }
 
+// Null for a label that no button has, and for one that cannot be pressed now.
+Control* FindButton(CDialog& dialog, const std::string& label) {
+  Control* control = FindControl(dialog, FromUtf8(label));
+  const bool pressable = control != nullptr && control->kind == ControlKind::kButton &&
+                         control->enabled && control->visible;
+  return pressable ? control : nullptr;
+}
+
 Json OpeningRecord(const CDialog& dialog) {
   return {{"event", "dialog"},
           {"class", ToUtf8(dialog.ClassName())},
@@ -138,16 +146,14 @@ void ScriptedFrontEnd::Press(CDialog& dialog, const std::vector<std::string>& bu
   }
 }
 
-bool ScriptedFrontEnd::PressOne(CDialog& dialog, const std::string& button) {
-  Control* control = FindControl(dialog, FromUtf8(button));
-  const bool pressable = control != nullptr && control->kind == ControlKind::kButton &&
-                         control->enabled && control->visible;
-  if (!pressable) {
-    CancelForMistake(dialog, "no button \"" + button + "\" to press");
+bool ScriptedFrontEnd::PressOne(CDialog& dialog, const std::string& label) {
+  Control* button = FindButton(dialog, label);
+  if (button == nullptr) {
+    CancelForMistake(dialog, "no button \"" + label + "\" to press");
     return false;
   }
-  control->onClick();
-  pressed_ = button;  // behind the click, which may have shown another dialog
+  button->onClick();
+  pressed_ = label;  // behind the click, which may have shown another dialog
   return true;
 }
 
@@ -178,7 +184,9 @@ int ScriptedFrontEnd::RunModal(CPropertySheet& sheet) {
   buttons.emplace_back("Cancel");
   for (const std::string& button : buttons) {
     if (sheet.HasEnded()) break;
-    transcript_.Write({{"event", "pressed"}, {"title", title}, {"button", button}});
+    if (FindButton(sheet, button) != nullptr) {
+      transcript_.Write({{"event", "pressed"}, {"title", title}, {"button", button}});
+    }
     PressOne(sheet, button);
   }
   sheet.Destroy();

@@ -30,7 +30,7 @@ class ScriptedFrontEnd final : public FrontEnd {
   void RunTimers(CDialog& dialog, const std::optional<ScriptAnswer>& answer);
   bool Fill(CDialog& dialog, const ScriptValues& values);
   void Press(CDialog& dialog, const std::vector<std::string>& buttons);
-  bool PressOne(CDialog& dialog, const std::string& button);
+  bool PressOne(CDialog& dialog, const std::string& label);
   void ReportMistake(const std::string& mistake);
   void CancelForMistake(CDialog& dialog, const std::string& mistake);
 
