@@ -1,21 +1,15 @@
+// Texts on their way through the table, where they are UTF-16, and through the script engine, whose
+// own form is CESU-8.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "platform/Unicode.h"
 
 namespace qutav::host {
 
-/// UTF-8 of a UTF-16 text. A surrogate without its partner becomes U+FFFD.
-std::string ToUtf8(std::u16string_view text);
+using qutav::FromUtf8;
+using qutav::ToUtf8;
 
-/// UTF-16 of a UTF-8 text. Each byte that is not part of a valid sequence becomes U+FFFD.
-std::u16string FromUtf8(std::string_view bytes);
-
-/// The script engine's own form of a text: every UTF-16 unit is encoded by itself, so that a
-/// surrogate pair takes six bytes and a lone surrogate survives.
-std::string ToScriptBytes(std::u16string_view text);
-
-/// The reverse of `ToScriptBytes`; also takes four-byte sequences.
-std::u16string FromScriptBytes(std::string_view bytes);
+inline std::string ToScriptBytes(std::u16string_view text) { return ToCesu8(text); }
+inline std::u16string FromScriptBytes(std::string_view bytes) { return FromCesu8(bytes); }
 
 }  // namespace qutav::host

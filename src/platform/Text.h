@@ -5,13 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Unicode.h"
+
 namespace qutav {
-
-/// UTF-16 to UTF-8. An unpaired surrogate becomes U+FFFD.
-std::string ToUtf8(std::u16string_view text);
-
-/// UTF-8 to UTF-16. Each byte that belongs to no well-formed sequence becomes U+FFFD.
-std::u16string FromUtf8(std::string_view bytes);
 
 /// UTF-16 to the local code page (`WideCharToMultiByte` with CP_ACP; UTF-8 on POSIX). What the code
 /// page lacks is lost.

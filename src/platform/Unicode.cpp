@@ -1,10 +1,9 @@
-#include "host/TextEncoding.h"
+#include "platform/Unicode.h"
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 
-namespace qutav::host {
+namespace qutav {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
@@ -111,13 +110,13 @@ std::string ToUtf8(std::u16string_view text) {
 
 std::u16string FromUtf8(std::string_view bytes) { return Decode(bytes, false); }
 
-std::string ToScriptBytes(std::u16string_view text) {
+std::string ToCesu8(std::u16string_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   for (const char16_t unit : text) AppendUtf8(bytes, unit);
   return bytes;
 }
 
-std::u16string FromScriptBytes(std::string_view bytes) { return Decode(bytes, true); }
+std::u16string FromCesu8(std::string_view bytes) { return Decode(bytes, true); }
 
-}  // namespace qutav::host
+}  // namespace qutav
