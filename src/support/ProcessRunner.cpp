@@ -31,17 +31,12 @@ void Drain(OutputPipe& pipe, std::u16string& output, const PolledByte* cancelFla
   }
 }
 
-void KillTree(std::uint32_t processId) {
-  std::u16string scratch;
-  RunProcess(u"taskkill /PID " + ToDecimal(processId) + u" /F /T", false, scratch);
-}
-
 // Leaves when the child has ended or the flag is set.
 void WatchChild(ChildProcess& child, OutputPipe& pipe, std::u16string& output,
                 const PolledByte* cancelFlag) {
   while (child.ExitCode() == kStillActive) {
     if (IsSet(cancelFlag)) {
-      KillTree(child.Id());
+      KillProcessTreeOf(child.Id());
       return;
     }
     Drain(pipe, output, cancelFlag);
@@ -66,6 +61,11 @@ std::int32_t RunProcess(const std::u16string& command, bool capture, std::u16str
   Drain(*pipe, output, nullptr);
   child->Wait();
   return static_cast<std::int32_t>(child->ExitCode());
+}
+
+void KillProcessTreeOf(std::uint32_t processId) {
+  std::u16string scratch;
+  RunProcess(u"taskkill /PID " + ToDecimal(processId) + u" /F /T", false, scratch);
 }
 
 void ReportFatalAndExit(const std::u16string& name) {

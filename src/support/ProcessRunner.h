@@ -23,6 +23,9 @@ using PolledByte = std::atomic<unsigned char>;
 std::int32_t RunProcess(const std::u16string& command, bool capture, std::u16string& output,
                         const PolledByte* cancelFlag = nullptr, std::uint32_t* processId = nullptr);
 
+/// Kills a process and all it has started; the id 0 has no effect.
+void KillProcessTreeOf(std::uint32_t processId);
+
 /// Tells the system's last error in a message box, "%s failed with error %d: %s", and ends this
 /// process with the error's code.
 [[noreturn]] void ReportFatalAndExit(const std::u16string& name);

@@ -2,6 +2,7 @@
 
 #include "packaging/DescriptorGenerator.h"
 #include "platform/Services.h"
+#include "support/ProcessRunner.h"
 #include "win/DocumentChecks.h"
 #include "win/DocumentContext.h"
 #include "win/DocumentPaths.h"
@@ -29,7 +30,7 @@ std::int32_t RunDebugMovie(const HostCallContext& call, const HostValue* argumen
   const HostLaunch launch = BuildLaunchCall(call, profile, true);
   std::int32_t answer = 0;
   const std::int32_t status = EvaluateLaunch(call, launch, answer);
-  if (answer != 0 && !launch.controller.empty()) KillSimulatorController(launch.controllerProcess);
+  if (answer != 0 && !launch.controller.empty()) KillProcessTreeOf(launch.controllerProcess);
   return status;
 }
 

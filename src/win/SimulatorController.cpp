@@ -49,9 +49,4 @@ bool StartSimulatorController(const HostCallContext& call, const std::u16string&
   return true;
 }
 
-void KillSimulatorController(std::uint32_t processId) {
-  std::u16string scratch;
-  RunProcess(u"taskkill /PID " + ToDecimal(processId) + u" /F /T", false, scratch);
-}
-
 }  // namespace qutav

@@ -25,7 +25,4 @@ std::u16string FindSimulatorController();
 bool StartSimulatorController(const HostCallContext& call, const std::u16string& path,
                               const std::u16string& switches, std::uint32_t& processId);
 
-/// Kills it and all it has started.
-void KillSimulatorController(std::uint32_t processId);
-
 }  // namespace qutav

@@ -91,7 +91,7 @@ std::int32_t TestThroughHost(const HostCallContext& call, const HostValue* argum
   std::int32_t answer = 0;
   const std::int32_t status = EvaluateLaunch(call, launch, answer);
   if (answer == kHostAsksForPlainLaunch) return RunPlainLaunch(call, arguments);
-  if (answer != 0 && !launch.controller.empty()) KillSimulatorController(launch.controllerProcess);
+  if (answer != 0 && !launch.controller.empty()) KillProcessTreeOf(launch.controllerProcess);
   return status;
 }
 
