@@ -1,9 +1,15 @@
 #include "framework/CDialog.h"
 
+#include <algorithm>
+#include <exception>
 #include <utility>
 
+#include "framework/ControlVisitor.h"
+#include "framework/MessageBoxes.h"
 #include "platform/Services.h"
+#include "platform/Text.h"
 #include "win/InterfaceLanguage.h"
+#include "win/MessageIds.h"
 
 namespace qutav {
 namespace {
@@ -13,6 +19,29 @@ std::u16string CatalogueText(std::uint32_t id) {
   if (id != 0) LoadResourceString(text, id);
   return text;
 }
+
+// Controls that a user fills have their caption beside them.
+class IsField : public ControlVisitor {
+ public:
+  explicit IsField(Control& control) { control.Accept(*this); }
+  explicit operator bool() const { return field_; }
+
+  void Visit(Label&) override {}
+  void Visit(GroupBox&) override {}
+  void Visit(Edit&) override { field_ = true; }
+  void Visit(Button&) override {}
+  void Visit(CheckBox&) override {}
+  void Visit(RadioButton&) override {}
+  void Visit(ProgressBar&) override { field_ = true; }
+  void Visit(ComboBox&) override { field_ = true; }
+  void Visit(ListBox&) override { field_ = true; }
+  void Visit(CheckList&) override { field_ = true; }
+  void Visit(CStretchBitmapButton&) override { field_ = true; }
+  void Visit(Picture&) override { field_ = true; }
+
+ private:
+  bool field_ = false;
+};
 
 }  // namespace
 
@@ -28,6 +57,7 @@ void CDialog::EndDialog(int result) {
 
 void CDialog::Create() {
   ended_ = false;
+  created_ = true;
   OnCreate();
   OnInitDialog();
 }
@@ -35,18 +65,35 @@ void CDialog::Create() {
 void CDialog::Destroy() {
   OnDestroy();
   timers_.clear();
+  created_ = false;
 }
 
-Control& CDialog::AddControl(ControlKind kind, std::u16string label, std::uint32_t textId) {
-  Control control;
-  control.kind = kind;
+void CDialog::Dispatch(const std::function<void()>& event) {
+  std::u16string detail;
+  try {
+    event();
+    return;
+  } catch (const std::exception& unforeseen) {
+    detail = u"\n\n" + FromLocalCodePage(unforeseen.what());
+  } catch (...) {
+  }
+  ShowWarning(Message(messages::kUnknownError) + detail);
+}
+
+void CDialog::GiveTexts(Control& control, std::u16string label, std::uint32_t captionId) {
   control.label = std::move(label);
-  // The label of a field to fill stands before it; its own text starts empty.
-  const bool filled = kind == ControlKind::kEdit || kind == ControlKind::kPassword;
-  control.textId = filled ? 0 : textId;
-  control.text = CatalogueText(control.textId);
-  controls_.push_back(std::move(control));
-  return controls_.back();
+  control.captionId = captionId;
+  (IsField(control) ? control.caption : control.text) = CatalogueText(captionId);
+}
+
+std::size_t CDialog::IndexOf(const Control& control) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const auto& other) { return other.get() == &control; });
+  return static_cast<std::size_t>(found - controls_.begin());
+}
+
+void CDialog::Remove(const Control& control) {
+  controls_.erase(controls_.begin() + static_cast<std::ptrdiff_t>(IndexOf(control)));
 }
 
 void CDialog::MoveTo(int left, int top) {
@@ -54,5 +101,7 @@ void CDialog::MoveTo(int left, int top) {
   top_ = top;
   placed_ = true;
 }
+
+void CDialog::Repaint() { TheServices().frontEnd->Repaint(*this); }
 
 }  // namespace qutav

@@ -4,9 +4,11 @@
 
 #include <chrono>
 #include <cstdint>
-#include <list>
+#include <functional>
 #include <map>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "framework/Control.h"
 #include "platform/FrontEnd.h"
@@ -33,16 +35,23 @@ class CDialog {
 
   /// A front end calls these in this order: `Create`, then events, then `Destroy`.
   void Create();
-  void Destroy();
+  virtual void Destroy();
+  bool IsCreated() const { return created_; }
+  /// Carries out one event. What it throws, and nobody below has caught, is shown as a warning; the
+  /// dialog goes on.
+  static void Dispatch(const std::function<void()>& event);
   virtual void OnTimer(TimerId) {}
   virtual void OnOK() { EndDialog(kIdOk); }
   virtual void OnCancel() { EndDialog(kIdCancel); }
+  /// A mouse move over a control, or over none, before it goes where it belongs
+  /// (`PreTranslateMessage`).
+  virtual void OnMouseMove(const Control* /*under*/) {}
 
   const std::u16string& ClassName() const { return className_; }
   const std::u16string& Title() const { return title_; }
   WindowHandle Parent() const { return parent_; }
-  std::list<Control>& Controls() { return controls_; }
-  const std::list<Control>& Controls() const { return controls_; }
+  /// In tab order.
+  const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
   const std::map<TimerId, std::chrono::milliseconds>& Timers() const { return timers_; }
 
   /// Where the dialog moved itself; meaningful once `IsPlaced`.
@@ -51,25 +60,51 @@ class CDialog {
   bool IsPlaced() const { return placed_; }
 
  protected:
-  /// The platform's initialisation, run when the window has been created.
-  virtual void OnInitDialog() {}
+  /// The platform's initialisation, run when the window has been created. True when the platform
+  /// may give the focus to the first control.
+  virtual bool OnInitDialog() { return true; }
   virtual void OnCreate() {}
   virtual void OnDestroy() {}
 
-  Control& AddControl(ControlKind kind, std::u16string label, std::uint32_t textId);
+  /// Appends a control. Its caption, of that id, stands in it or, for a field, beside it.
+  template <typename Kind>
+  Kind& Add(std::u16string label, std::uint32_t captionId = 0) {
+    return Insert<Kind>(controls_.size(), std::move(label), captionId);
+  }
+  /// The same, behind another control in tab order.
+  template <typename Kind>
+  Kind& AddAfter(const Control& other, std::u16string label, std::uint32_t captionId = 0) {
+    return Insert<Kind>(IndexOf(other) + 1, std::move(label), captionId);
+  }
+  void Remove(const Control& control);
+
   void SetTimer(TimerId id, std::chrono::milliseconds period) { timers_[id] = period; }
   void KillTimer(TimerId id) { timers_.erase(id); }
   void MoveTo(int left, int top);
+  /// Brings what handlers have changed to the screen at once (`UpdateWindow`).
+  void Repaint();
 
  private:
+  template <typename Kind>
+  Kind& Insert(std::size_t index, std::u16string label, std::uint32_t captionId) {
+    auto control = std::make_unique<Kind>();
+    Kind& added = *control;
+    GiveTexts(added, std::move(label), captionId);
+    controls_.insert(controls_.begin() + static_cast<std::ptrdiff_t>(index), std::move(control));
+    return added;
+  }
+  static void GiveTexts(Control& control, std::u16string label, std::uint32_t captionId);
+  std::size_t IndexOf(const Control& control) const;
+
   std::u16string className_;
   WindowHandle parent_;
   std::u16string title_;
-  std::list<Control> controls_;
+  std::vector<std::unique_ptr<Control>> controls_;
   std::map<TimerId, std::chrono::milliseconds> timers_;
   int left_ = 0;
   int top_ = 0;
   bool placed_ = false;
+  bool created_ = false;
   bool ended_ = false;
   int result_ = 0;
 };

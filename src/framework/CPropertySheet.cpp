@@ -1,9 +1,62 @@
 #include "framework/CPropertySheet.h"
 
+#include <utility>
+
 #include "platform/Services.h"
+#include "settings_ui/DialogTexts.h"
 
 namespace qutav {
 
+CPropertySheet::CPropertySheet(std::u16string className, std::uint32_t titleId, int startPage)
+    : CDialog(std::move(className), titleId, nullptr), activePage_(startPage) {
+  Button& ok = AddCommand(u"OK", texts::kSheetOk, kIdOk);
+  ok.isDefault = true;
+  ok.onClick = [this] { OnOK(); };
+  AddCommand(u"Cancel", texts::kSheetCancel, kIdCancel).onClick = [this] { OnCancel(); };
+  AddCommand(u"Apply", 0, kIdApply).enabled = false;
+  AddCommand(u"Help", texts::kSheetHelp, kIdHelp).onClick = [this] { OnHelp(); };
+}
+
+Button& CPropertySheet::AddCommand(std::u16string label, std::uint32_t captionId, int commandId) {
+  auto& button = Add<Button>(std::move(label), captionId);
+  button.commandId = commandId;
+  return button;
+}
+
+Button* CPropertySheet::GetButton(int commandId) const {
+  for (const auto& control : Controls()) {
+    auto* button = dynamic_cast<Button*>(control.get());
+    if (button != nullptr && button->commandId == commandId) return button;
+  }
+  return nullptr;
+}
+
 int CPropertySheet::DoModal() { return TheServices().frontEnd->RunModal(*this); }
+
+void CPropertySheet::SetActivePage(int index) {
+  if (index < 0 || index >= static_cast<int>(pages_.size())) return;
+  activePage_ = index;
+  if (shown_) ShowActivePage();
+}
+
+void CPropertySheet::ShowActivePage() {
+  CPropertyPage& page = *pages_[static_cast<std::size_t>(activePage_)];
+  if (!page.IsCreated()) page.Create();
+  window_->ShowPage(activePage_);
+}
+
+bool CPropertySheet::OnInitDialog() {
+  shown_ = true;
+  if (!pages_.empty()) ShowActivePage();
+  return CDialog::OnInitDialog();
+}
+
+void CPropertySheet::Destroy() {
+  for (CPropertyPage* page : pages_) {
+    if (page->IsCreated()) page->Destroy();
+  }
+  shown_ = false;
+  CDialog::Destroy();
+}
 
 }  // namespace qutav

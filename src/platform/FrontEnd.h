@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace qutav {
 
 class CDialog;
 class CPropertySheet;
+struct Control;
 
 /// A window of the host or of ours; opaque here.
 using WindowHandle = void*;
@@ -36,6 +38,27 @@ struct Rectangle {
   int Height() const { return bottom - top; }
 };
 
+enum class FileDialogKind { kOpen, kSave };
+
+/// What a file dialog shows (`GetOpenFileNameW`, `GetSaveFileNameW`). The file to open must exist.
+struct FileDialogRequest {
+  WindowHandle owner = nullptr;
+  FileDialogKind kind = FileDialogKind::kOpen;
+  std::u16string title;  ///< empty for the system's own
+  /// Pairs of a description and patterns, each part with "|" behind it, a further "|" at the end.
+  std::u16string filter;
+  std::u16string defaultExtension;
+  std::u16string startName;
+  std::u16string startFolder;
+};
+
+/// What a folder dialog shows (`SHBrowseForFolderW`).
+struct FolderDialogRequest {
+  WindowHandle owner = nullptr;
+  std::u16string title;
+  unsigned flags = 0;  ///< the system's BIF_ flags
+};
+
 class FrontEnd {
  public:
   virtual ~FrontEnd() = default;
@@ -49,6 +72,17 @@ class FrontEnd {
   virtual int RunModal(CDialog& dialog) = 0;
   /// The same for a property sheet.
   virtual int RunModal(CPropertySheet& sheet) = 0;
+  /// Lets the user choose a file; its full path with backslashes, nothing when it was cancelled.
+  virtual std::optional<std::u16string> ChooseFile(const FileDialogRequest& request) = 0;
+  /// The same for a folder. An empty text: one was chosen that has no path.
+  virtual std::optional<std::u16string> ChooseFolder(const FolderDialogRequest& request) = 0;
+  /// Opens a link in the default browser (`ShellExecuteW`, "open").
+  virtual void OpenLink(const std::u16string& url) = 0;
+  /// The width of a text in a control's font, and of that font's average character, in pixels.
+  virtual int TextWidth(const Control& control, const std::u16string& text) = 0;
+  virtual int AverageCharacterWidth(const Control& control) = 0;
+  /// Brings a dialog's controls to the screen as they stand now (`UpdateWindow`).
+  virtual void Repaint(CDialog& dialog) = 0;
   /// The rectangle of the active window and of the desktop, in pixels.
   virtual Rectangle ActiveWindowRectangle() = 0;
   virtual Rectangle DesktopRectangle() = 0;

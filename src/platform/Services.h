@@ -6,6 +6,7 @@
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/FrontEnd.h"
+#include "platform/Images.h"
 #include "platform/Language.h"
 #include "platform/Processes.h"
 #include "platform/Registry.h"
@@ -21,6 +22,7 @@ struct Services {
   Folders* folders = nullptr;
   Language* language = nullptr;
   Threads* threads = nullptr;
+  Images* images = nullptr;
   FrontEnd* frontEnd = nullptr;
 };
 

@@ -26,6 +26,9 @@ int ParseDecimal(std::u16string_view text);
 /// ASCII letters in lower case, all else as it stands.
 std::u16string ToLowerAscii(std::u16string_view text);
 
+/// One unit in lower case as the system's own lists have it (`CharLowerW`), in no special language.
+char16_t ToLowerCase(char16_t unit);
+
 /// Equal without regard to the case of ASCII letters.
 bool EqualsIgnoringCase(std::u16string_view a, std::u16string_view b);
 

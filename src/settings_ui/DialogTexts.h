@@ -23,5 +23,6 @@ inline constexpr std::uint32_t kPasswordCancel = 9024;
 
 inline constexpr std::uint32_t kSheetOk = 9030;
 inline constexpr std::uint32_t kSheetCancel = 9031;
+inline constexpr std::uint32_t kSheetHelp = 9032;
 
 }  // namespace qutav::texts

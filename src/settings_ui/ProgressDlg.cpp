@@ -13,21 +13,21 @@ constexpr std::chrono::milliseconds kTick{1000};
 }  // namespace
 
 CProgressDlg::CProgressDlg(WindowHandle parent) : CDialog(u"CProgressDlg", 0, parent) {
-  AddControl(ControlKind::kText, u"Publishing ...", texts::kProgressText);
-  bar_ = &AddControl(ControlKind::kProgress, u"", 0);
-  AddControl(ControlKind::kButton, u"Cancel", texts::kProgressCancel).onClick = [this] {
-    OnCancel();
-  };
+  Add<Label>(u"Publishing ...", texts::kProgressText);
+  bar_ = &Add<ProgressBar>(u"");
+  Add<Button>(u"Cancel", texts::kProgressCancel).onClick = [this] { OnCancel(); };
   PublishCancelled.store(0, std::memory_order_relaxed);
 }
 
 void CProgressDlg::OnCreate() { SetTimer(kProgressTimer, kTick); }
 
-void CProgressDlg::OnInitDialog() {
+bool CProgressDlg::OnInitDialog() {
   CDialog::OnInitDialog();
   Centre();
   bar_->rangeEnd = 100;
   bar_->marqueeStep = std::chrono::milliseconds(50);
+  Repaint();
+  return true;
 }
 
 // On the active window where that is the larger in both directions, else on the desktop.
@@ -53,6 +53,7 @@ void CProgressDlg::OnCancel() {
   bar_->visible = false;
   PublishCancelled.store(1, std::memory_order_relaxed);
   if (doneFlag_ != nullptr) doneFlag_->store(1, std::memory_order_relaxed);
+  Repaint();
   CDialog::OnCancel();
 }
 

@@ -21,7 +21,7 @@ class CProgressDlg : public CDialog {
 
  protected:
   void OnCreate() override;
-  void OnInitDialog() override;
+  bool OnInitDialog() override;
   void OnDestroy() override;
   /// After this no tick touches the caller's byte.
   virtual void ClearDoneFlag() { doneFlag_ = nullptr; }
@@ -31,7 +31,7 @@ class CProgressDlg : public CDialog {
 
   bool cancelled_ = false;
   PolledByte* doneFlag_ = nullptr;
-  Control* bar_ = nullptr;
+  ProgressBar* bar_ = nullptr;
 };
 
 }  // namespace qutav

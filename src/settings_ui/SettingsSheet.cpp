@@ -20,11 +20,7 @@ CSettingsPropSheet::CSettingsPropSheet(bool ios, int startPage)
                      ios ? messages::kIosSettingsTitle : messages::kAndroidSettingsTitle,
                      startPage),
       ios_(ios) {
-  AddControl(ControlKind::kButton, u"OK", texts::kSheetOk).onClick = [this] { SheetOk(); };
-  AddControl(ControlKind::kButton, u"Cancel", texts::kSheetCancel).onClick = [this] { OnCancel(); };
-  AddControl(ControlKind::kButton, u"Publish", messages::kPublishButton).onClick = [this] {
-    SheetPublish();
-  };
+  Add<Button>(u"Publish", messages::kPublishButton).onClick = [this] { SheetPublish(); };
 }
 
 void CSettingsPropSheet::PutSetting(const std::u16string& key, const std::u16string& value) {
@@ -36,7 +32,7 @@ void CSettingsPropSheet::PutRegistryValue(const std::u16string& name, const std:
   SetRegistryString(name, value);
 }
 
-void CSettingsPropSheet::SheetOk() {
+void CSettingsPropSheet::OnOK() {
   SettingsSet(keys::kExitOk, changed_ ? u"true" : u"false");
   EndDialog(kIdOk);
 }

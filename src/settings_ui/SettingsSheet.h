@@ -10,10 +10,10 @@ class CSettingsPropSheet : public CPropertySheet {
   CSettingsPropSheet(bool ios, int startPage);
 
   void PutSetting(const std::u16string& key, const std::u16string& value) override;
+  void OnOK() override;
   void PutRegistryValue(const std::u16string& name, const std::u16string& value) override;
 
  private:
-  void SheetOk();
   void SheetPublish();
   bool CheckIosPackager() const;
 

@@ -8,13 +8,13 @@ namespace qutav {
 
 CSignaturePasswordDlg::CSignaturePasswordDlg(WindowHandle parent)
     : CDialog(u"CSignaturePasswordDlg", texts::kPasswordTitle, parent),
-      password_(&AddControl(ControlKind::kPassword, u"Password:", texts::kPasswordLabel)),
-      remember_(
-          &AddControl(ControlKind::kCheckBox, u"Remember password", texts::kPasswordRemember)) {
-  AddControl(ControlKind::kButton, u"OK", texts::kPasswordOk).onClick = [this] { OnOK(); };
-  AddControl(ControlKind::kButton, u"Cancel", texts::kPasswordCancel).onClick = [this] {
-    OnCancel();
-  };
+      password_(&Add<Edit>(u"Password:", texts::kPasswordLabel)),
+      remember_(&Add<CheckBox>(u"Remember password", texts::kPasswordRemember)) {
+  password_->style = EditStyle::kPassword;
+  auto& ok = Add<Button>(u"OK", texts::kPasswordOk);
+  ok.isDefault = true;
+  ok.onClick = [this] { OnOK(); };
+  Add<Button>(u"Cancel", texts::kPasswordCancel).onClick = [this] { OnCancel(); };
 }
 
 void CSignaturePasswordDlg::OnOK() {

@@ -12,8 +12,8 @@ class CSignaturePasswordDlg : public CDialog {
   void OnOK() override;
 
  private:
-  Control* password_;
-  Control* remember_;
+  Edit* password_;
+  CheckBox* remember_;
 };
 
 }  // namespace qutav

@@ -6,24 +6,21 @@ namespace qutav {
 
 CTimestampRetryDlg::CTimestampRetryDlg(WindowHandle parent)
     : CDialog(u"CTimestampRetryDlg", texts::kTimestampTitle, parent) {
-  AddControl(
-      ControlKind::kText,
+  Add<Label>(
       u"There was an error connecting to the timestamp server. You may not have a connection "
       u"to the network, or the server itself may have a problem.",
       texts::kTimestampError);
-  AddControl(
-      ControlKind::kText,
+  Add<Label>(
       u"If you choose to disable timestamping, the TAV application will fail to install when "
       u"the digital certificate expires.",
       texts::kTimestampConsequence);
-  AddControl(ControlKind::kButton, u"Disable Timestamping", texts::kTimestampDisable).onClick =
-      [this] { EndDialog(kDisableTimestamping); };
-  Control& retry = AddControl(ControlKind::kButton, u"Retry", texts::kTimestampRetry);
+  Add<Button>(u"Disable Timestamping", texts::kTimestampDisable).onClick = [this] {
+    EndDialog(kDisableTimestamping);
+  };
+  auto& retry = Add<Button>(u"Retry", texts::kTimestampRetry);
   retry.isDefault = true;
   retry.onClick = [this] { EndDialog(kRetry); };
-  AddControl(ControlKind::kButton, u"Cancel", texts::kTimestampCancel).onClick = [this] {
-    OnCancel();
-  };
+  Add<Button>(u"Cancel", texts::kTimestampCancel).onClick = [this] { OnCancel(); };
 }
 
 }  // namespace qutav

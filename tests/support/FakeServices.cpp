@@ -278,6 +278,44 @@ std::unique_ptr<WorkerThread> FakeThreads::Start(std::function<void()> procedure
   return StandardThreads().Start(std::move(procedure));
 }
 
+std::shared_ptr<const Image> FakeImages::Load(const std::u16string& path) {
+  loaded.push_back(path);
+  const auto found = images_.find(path);
+  return found == images_.end() ? nullptr : found->second;
+}
+
+void FakeImages::Put(const std::u16string& path, int width, int height) {
+  auto image = std::make_shared<Image>();
+  image->width = width;
+  image->height = height;
+  images_[path] = std::move(image);
+}
+
+Rectangle FakeSheetWindow::ButtonRectangle(int commandId) {
+  const auto found = buttons.find(commandId);
+  return found == buttons.end() ? Rectangle{} : found->second;
+}
+
+void FakeSheetWindow::Resize(int width, int height) { resizedTo = {width, height}; }
+
+void FakeSheetWindow::SetScrollPosition(int position, bool redraw) {
+  scrollPositions.emplace_back(position, redraw);
+}
+
+std::optional<std::u16string> FakeFrontEnd::ChooseFile(const FileDialogRequest& request) {
+  fileDialogs.push_back(request);
+  return chosenFile;
+}
+
+std::optional<std::u16string> FakeFrontEnd::ChooseFolder(const FolderDialogRequest& request) {
+  folderDialogs.push_back(request);
+  return chosenFolder;
+}
+
+int FakeFrontEnd::TextWidth(const Control& control, const std::u16string& text) {
+  return static_cast<int>(text.size()) * AverageCharacterWidth(control);
+}
+
 int FakeFrontEnd::ShowMessage(const MessageBoxRequest& request) {
   messages.push_back({request.title, request.text, request.icon, request.buttons, request.owner});
   if (onMessage) onMessage(request);
@@ -298,10 +336,12 @@ int FakeFrontEnd::RunModal(CDialog& dialog) {
 
 int FakeFrontEnd::RunModal(CPropertySheet& sheet) {
   dialogs.push_back(sheet.ClassName());
+  sheet.Attach(&sheetWindow);
   sheet.Create();
   if (onSheet) onSheet(sheet);
   if (!sheet.HasEnded()) sheet.OnCancel();
   sheet.Destroy();
+  sheet.Attach(nullptr);
   return sheet.Result();
 }
 
@@ -312,12 +352,9 @@ std::vector<std::u16string> FakeFrontEnd::Texts() const {
 }
 
 bool PressButton(CDialog& dialog, const std::u16string& label) {
-  for (Control& control : dialog.Controls()) {
-    if (control.kind != ControlKind::kButton || control.label != label) continue;
-    control.onClick();
-    return true;
-  }
-  return false;
+  Clickable* button = FindButton(dialog, label);
+  if (button != nullptr) button->Click();
+  return button != nullptr;
 }
 
 void TickUntilEnded(CDialog& dialog) {

@@ -7,12 +7,17 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "framework/CPropertySheet.h"
+#include "framework/scripted/UserActions.h"
 #include "platform/Services.h"
+#include "platform/Text.h"
 
 namespace qutav::test {
 
@@ -154,6 +159,40 @@ class FakeThreads : public Threads {
   bool refuses = false;
 };
 
+/// Images by path, as a test puts them there; a file that is none has no image.
+class FakeImages : public Images {
+ public:
+  std::shared_ptr<const Image> Load(const std::u16string& path) override;
+  void Put(const std::u16string& path, int width, int height);
+  std::vector<std::u16string> loaded;  ///< every path asked for
+
+ private:
+  std::map<std::u16string, std::shared_ptr<const Image>> images_;
+};
+
+/// A sheet's window: figures as a test sets them, and what the sheet did to it.
+class FakeSheetWindow : public SheetWindow {
+ public:
+  Rectangle WorkArea() override { return workArea; }
+  Rectangle WindowRectangle() override { return window; }
+  int ScrollBarWidth() override { return 17; }
+  Rectangle ButtonRectangle(int commandId) override;
+  void Resize(int width, int height) override;
+  void ShowScrollBar(const ScrollInfo& info) override { scrollBar = info; }
+  void SetScrollPosition(int position, bool redraw) override;
+  void ScrollContents(int distance) override { scrolled.push_back(distance); }
+  void ShowPage(int index) override { shownPages.push_back(index); }
+
+  Rectangle workArea{0, 0, 1920, 1040};
+  Rectangle window{100, 100, 600, 700};
+  std::map<int, Rectangle> buttons;
+  std::optional<std::pair<int, int>> resizedTo;
+  std::optional<ScrollInfo> scrollBar;
+  std::vector<std::pair<int, bool>> scrollPositions;  ///< with whether they were redrawn
+  std::vector<int> scrolled;
+  std::vector<int> shownPages;
+};
+
 struct ShownMessage {
   std::u16string title;
   std::u16string text;
@@ -173,6 +212,12 @@ class FakeFrontEnd : public FrontEnd {
   Rectangle ActiveWindowRectangle() override { return active; }
   Rectangle DesktopRectangle() override { return desktop; }
   Rectangle DialogRectangle(const CDialog&) override { return dialogSize; }
+  std::optional<std::u16string> ChooseFile(const FileDialogRequest& request) override;
+  std::optional<std::u16string> ChooseFolder(const FolderDialogRequest& request) override;
+  void OpenLink(const std::u16string& url) override { links.push_back(url); }
+  int TextWidth(const Control& control, const std::u16string& text) override;
+  int AverageCharacterWidth(const Control&) override { return 7; }
+  void Repaint(CDialog& dialog) override { repainted.push_back(dialog.ClassName()); }
 
   std::vector<std::u16string> Texts() const;
 
@@ -184,6 +229,14 @@ class FakeFrontEnd : public FrontEnd {
   Rectangle dialogSize{0, 0, 300, 100};
   std::vector<ShownMessage> messages;
   std::vector<std::u16string> dialogs;  ///< class names, in the order of showing
+  std::vector<FileDialogRequest> fileDialogs;
+  std::vector<FolderDialogRequest> folderDialogs;
+  std::vector<std::u16string> links;
+  std::vector<std::u16string> repainted;  ///< class names, in the order of repainting
+  /// What file and folder dialogs give; nothing when they are cancelled.
+  std::optional<std::u16string> chosenFile;
+  std::optional<std::u16string> chosenFolder;
+  FakeSheetWindow sheetWindow;
   /// The answer to a message with OK and Cancel.
   int answer = kIdOk;
   std::function<void(const MessageBoxRequest&)> onMessage;
@@ -195,6 +248,15 @@ class FakeFrontEnd : public FrontEnd {
 
 /// Presses a button of a dialog by its English label; false when there is none.
 bool PressButton(CDialog& dialog, const std::u16string& label);
+
+/// A dialog's control of a kind by its English label, "#2" behind a repeated one. Fails the test
+/// and throws without one.
+template <typename Kind>
+Kind& Find(const CDialog& dialog, const std::u16string& label) {
+  auto* control = dynamic_cast<Kind*>(FindControl(dialog, label));
+  if (control == nullptr) throw std::runtime_error("no such control: " + ToUtf8(label));
+  return *control;
+}
 
 /// Lets the dialog's timer tick until it ends.
 void TickUntilEnded(CDialog& dialog);

@@ -38,7 +38,8 @@ void ResetProcessWideState() {
 }  // namespace
 
 ServicesTest::ServicesTest() {
-  TheServices() = {&files, &processes, &clock, &registry, &folders, &language, &threads, &frontEnd};
+  TheServices() = {&files,    &processes, &clock,      &registry, &folders,
+                   &language, &threads,   &imageFiles, &frontEnd};
   ResetProcessWideState();
   language.SetThreadInterfaceLanguage(kEnglish);
   language.switches.clear();

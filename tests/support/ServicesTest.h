@@ -21,6 +21,7 @@ class ServicesTest : public ::testing::Test {
   FakeFolders folders;
   RecordingLanguage language;
   FakeThreads threads;
+  FakeImages imageFiles;
   FakeFrontEnd frontEnd;
   FakeHost host;
 };

@@ -33,7 +33,7 @@ std::string MistakeInAnswer(const std::string& answer) {
 // The button of the answer that is taken; "(none)" without an answer.
 std::string Taken(AnswerScript& script, const Shown& shown) {
   const auto answer = script.Take(shown);
-  return answer ? answer->press.at(0) : "(none)";
+  return answer ? answer->steps.at(0).press.at(0) : "(none)";
 }
 
 const Shown kMessage{"message", "", "Title", "a missing file"};
@@ -43,7 +43,7 @@ const Shown kDialog{"dialog", "COne", "Title", ""};
 std::string ValueOf(const std::string& value) {
   const std::string set = "\"set\": {\"x\": " + value + "}";
   AnswerScript script = Script("{\"to\": \"dialog\", " + set + "}");
-  return script.Take(kDialog)->set.at(0).second;
+  return script.Take(kDialog)->steps.at(0).set.at(0).second;
 }
 
 TEST(AnswerScriptTest, AnAnswerIsUsedOnce) {
@@ -128,9 +128,9 @@ TEST(AnswerScriptTest, ButtonsAreOneOrAList) {
          {"to": "sheet"})");
   const Shown sheet{"sheet", "", "", ""};
 
-  EXPECT_THAT(script.Take(sheet)->press, ElementsAre("Publish", "OK"));
-  EXPECT_THAT(script.Take(sheet)->press, ElementsAre("OK"));
-  EXPECT_THAT(script.Take(sheet)->press, IsEmpty());
+  EXPECT_THAT(script.Take(sheet)->steps.at(0).press, ElementsAre("Publish", "OK"));
+  EXPECT_THAT(script.Take(sheet)->steps.at(0).press, ElementsAre("OK"));
+  EXPECT_THAT(script.Take(sheet)->steps.at(0).press, IsEmpty());
 }
 
 TEST(AnswerScriptTest, ValuesOfAnAnswerAreRead) {
@@ -142,7 +142,7 @@ TEST(AnswerScriptTest, ValuesOfAnAnswerAreRead) {
 
   EXPECT_THAT(answer.settings, ElementsAre(Pair("a", "1")));
   EXPECT_THAT(answer.registry, ElementsAre(Pair("b", "2")));
-  EXPECT_THAT(answer.set, ElementsAre(Pair("c", "3")));
+  EXPECT_THAT(answer.steps.at(0).set, ElementsAre(Pair("c", "3")));
   EXPECT_EQ(answer.after, 4u);
 }
 
@@ -214,7 +214,8 @@ TEST(AnswerScriptTest, AnAnswerThatIsNoObjectIsAMistake) {
 }
 
 TEST(AnswerScriptTest, AnAnswerToSomethingElseIsAMistake) {
-  EXPECT_EQ(MistakeInAnswer(R"({"to": "box"})"), "\"to\" is \"message\", \"dialog\" or \"sheet\"");
+  EXPECT_EQ(MistakeInAnswer(R"({"to": "box"})"),
+            "\"to\" is \"message\", \"dialog\", \"sheet\", \"file\" or \"folder\"");
 }
 
 TEST(AnswerScriptTest, AnAnswerToNothingIsAMistake) {

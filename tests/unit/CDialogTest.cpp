@@ -8,15 +8,15 @@ namespace {
 class ProbeDialog : public CDialog {
  public:
   ProbeDialog() : CDialog(u"ProbeDialog", 8002, nullptr) {}
-  using CDialog::AddControl;
+  using CDialog::Add;
   using CDialog::SetTimer;
   std::vector<std::string> calls;
 
  protected:
   void OnCreate() override { calls.push_back("create"); }
-  void OnInitDialog() override {
-    CDialog::OnInitDialog();
+  bool OnInitDialog() override {
     calls.push_back("initialise");
+    return CDialog::OnInitDialog();
   }
   void OnDestroy() override { calls.push_back(Timers().empty() ? "destroy" : "destroy first"); }
 };
@@ -61,14 +61,14 @@ TEST_F(CDialogTest, ADialogThatIsShownAgainHasNotEnded) {
 }
 
 TEST_F(CDialogTest, TitleAndTextsComeFromTheCatalogue) {
-  const Control& button = dialog.AddControl(ControlKind::kButton, u"Cancel", 9002);
+  const auto& button = dialog.Add<Button>(u"Cancel", 9002);
 
   EXPECT_EQ(dialog.Title(), u"Signing TAV with certificate");
   EXPECT_EQ(button.text, u"Cancel");
 }
 
 TEST_F(CDialogTest, NothingIsLookedUpOnceADialogRuns) {
-  dialog.AddControl(ControlKind::kButton, u"Cancel", 9002);
+  dialog.Add<Button>(u"Cancel", 9002);
   language.capacities.clear();
 
   dialog.DoModal();
@@ -77,15 +77,14 @@ TEST_F(CDialogTest, NothingIsLookedUpOnceADialogRuns) {
 }
 
 TEST_F(CDialogTest, AFieldToFillStartsEmptyAndKeepsWhatWasTyped) {
-  for (const ControlKind kind : {ControlKind::kEdit, ControlKind::kPassword}) {
-    Control& field = dialog.AddControl(kind, u"Password:", 9021);
-    EXPECT_EQ(field.text, u"");
-    field.text = u"typed";
+  auto& field = dialog.Add<Edit>(u"Password:", 9021);
+  EXPECT_EQ(field.caption, u"Password:");
+  EXPECT_EQ(field.text, u"");
+  field.Type(u"typed");
 
-    dialog.Create();
+  dialog.Create();
 
-    EXPECT_EQ(field.text, u"typed");
-  }
+  EXPECT_EQ(field.text, u"typed");
 }
 
 }  // namespace

@@ -25,7 +25,9 @@ class HostEntryBodiesTest : public PublishableDocumentTest {
     HostEnvironment = HostTable();
     KR_InitWrapper(table.words.data(), sizeof(table.words));
     host.data[keys::kMovieFolder] = u"C:/m/";
-    frontEnd.onSheet = [this](CPropertySheet& sheet) { sheetPages.push_back(sheet.ActivePage()); };
+    frontEnd.onSheet = [this](CPropertySheet& sheet) {
+      sheetPages.push_back(sheet.GetActiveIndex());
+    };
   }
 
   std::int32_t Call(const FakeHost::Defined& function, void* context, void* object) {

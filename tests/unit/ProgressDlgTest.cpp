@@ -14,13 +14,7 @@ class ProgressDlgTest : public ServicesTest {
  protected:
   ProgressDlgTest() { dialog.SetDoneFlag(&done); }
 
-  const Control& Bar() const {
-    for (const Control& control : dialog.Controls()) {
-      if (control.kind == ControlKind::kProgress) return control;
-    }
-    ADD_FAILURE() << "there is no bar";
-    return dialog.Controls().front();
-  }
+  const ProgressBar& Bar() const { return Find<ProgressBar>(dialog, u""); }
   void ExpectPlace(int left, int top) {
     dialog.Create();
 
@@ -36,12 +30,10 @@ class ProgressDlgTest : public ServicesTest {
 TEST_F(ProgressDlgTest, ShowsATextABarAndCancelUnderNoTitle) {
   dialog.Create();
 
-  std::vector<std::pair<ControlKind, std::u16string>> controls;
-  for (const Control& control : dialog.Controls())
-    controls.emplace_back(control.kind, control.text);
-  EXPECT_THAT(controls, ElementsAre(Pair(ControlKind::kText, u"Publishing ..."),
-                                    Pair(ControlKind::kProgress, u""),
-                                    Pair(ControlKind::kButton, u"Cancel")));
+  ASSERT_EQ(dialog.Controls().size(), 3u);
+  EXPECT_EQ(Find<Label>(dialog, u"Publishing ...").text, u"Publishing ...");
+  EXPECT_EQ(dialog.Controls()[1].get(), &Bar());
+  EXPECT_EQ(Find<Button>(dialog, u"Cancel").text, u"Cancel");
   EXPECT_EQ(dialog.Title(), u"");
 }
 

@@ -16,7 +16,9 @@ class PublishEntryTest : public PublishableDocumentTest {
   PublishEntryTest() {
     EXPECT_TRUE(Prepare());
     SetTargets(u"false", u"true", u"");
-    frontEnd.onSheet = [this](CPropertySheet& sheet) { sheetPages.push_back(sheet.ActivePage()); };
+    frontEnd.onSheet = [this](CPropertySheet& sheet) {
+      sheetPages.push_back(sheet.GetActiveIndex());
+    };
   }
 
   static void SetTargets(const std::u16string& ipa, const std::u16string& tav,

@@ -23,38 +23,37 @@ using ::testing::IsEmpty;
 class SampleDialog : public CDialog {
  public:
   SampleDialog() : CDialog(u"CSample", 0, nullptr) {
-    AddControl(ControlKind::kEdit, u"Name:", 0);
-    AddControl(ControlKind::kEdit, u"Name:", 0);
-    AddControl(ControlKind::kPassword, u"Secret:", 0).text = u"hidden";
-    AddControl(ControlKind::kPassword, u"Empty:", 0);
-    AddControl(ControlKind::kCheckBox, u"Remember", 0);
-    AddControl(ControlKind::kText, u"Label", 0);
-    AddControl(ControlKind::kButton, u"OK", 0).onClick = [this] { OnOK(); };
-    AddControl(ControlKind::kButton, u"Cancel", 0).onClick = [this] { OnCancel(); };
-    Control& off = AddControl(ControlKind::kButton, u"Off", 0);
+    Add<Edit>(u"Name:");
+    Add<Edit>(u"Name:");
+    auto& secret = Add<Edit>(u"Secret:");
+    secret.style = EditStyle::kPassword;
+    secret.text = u"hidden";
+    Add<Edit>(u"Empty:").style = EditStyle::kPassword;
+    Add<CheckBox>(u"Remember");
+    Add<Label>(u"Label");
+    Add<Button>(u"OK").onClick = [this] { OnOK(); };
+    Add<Button>(u"Cancel").onClick = [this] { OnCancel(); };
+    auto& off = Add<Button>(u"Off");
     off.enabled = false;
     off.onClick = [this] { EndDialog(77); };
   }
-  const Control& At(std::size_t index) const {
-    return *std::next(Controls().begin(), static_cast<std::ptrdiff_t>(index));
-  }
+  const Control& At(std::size_t index) const { return *Controls().at(index); }
+  CheckBox& Remember() const { return Find<CheckBox>(*this, u"Remember"); }
 };
 
 // Writes down what happens to it.
 class SampleSheet : public CPropertySheet {
  public:
   SampleSheet() : CPropertySheet(u"CSampleSheet", 0, 3) {
-    AddControl(ControlKind::kButton, u"OK", 0).onClick = [this] {
-      events.push_back(u"OK");
-      EndDialog(kIdOk);
-    };
-    AddControl(ControlKind::kButton, u"Cancel", 0).onClick = [this] {
-      events.push_back(u"Cancel");
-      OnCancel();
-    };
-    AddControl(ControlKind::kButton, u"Publish", 0).onClick = [this] {
-      events.push_back(u"Publish");
-    };
+    Add<Button>(u"Publish").onClick = [this] { events.push_back(u"Publish"); };
+  }
+  void OnOK() override {
+    events.push_back(u"OK");
+    CPropertySheet::OnOK();
+  }
+  void OnCancel() override {
+    events.push_back(u"Cancel");
+    CPropertySheet::OnCancel();
   }
   void PutSetting(const std::u16string& key, const std::u16string& value) override {
     events.push_back(key + u"=" + value);
@@ -192,7 +191,7 @@ TEST_F(ScriptedFrontEndTest, AFilledDialogIsPressed) {
   EXPECT_EQ(dialog.At(0).text, u"first");
   EXPECT_EQ(dialog.At(1).text, u"Tr\u00E4ume");
   EXPECT_EQ(dialog.At(2).text, u"pw");
-  EXPECT_TRUE(dialog.At(4).checked);
+  EXPECT_TRUE(dialog.Remember().checked);
   EXPECT_EQ(Events("closed").at(0).at("answer"), "OK");
   EXPECT_THAT(Mistakes(), IsEmpty());
 }
@@ -200,11 +199,11 @@ TEST_F(ScriptedFrontEndTest, AFilledDialogIsPressed) {
 TEST_F(ScriptedFrontEndTest, ACheckBoxCanBeCleared) {
   Answers(R"({"to": "dialog", "set": {"Remember": false}, "press": "OK"})");
   SampleDialog dialog;
-  std::next(dialog.Controls().begin(), 4)->checked = true;
+  dialog.Remember().checked = true;
 
   EXPECT_EQ(dialog.DoModal(), kIdOk);
 
-  EXPECT_FALSE(dialog.At(4).checked);
+  EXPECT_FALSE(dialog.Remember().checked);
 }
 
 TEST_F(ScriptedFrontEndTest, AFilledDialogWithoutAButtonToPressIsCancelled) {
@@ -370,7 +369,12 @@ TEST_F(ScriptedFrontEndTest, ASheetIsWrittenWithItsPageItsValuesAndItsButtons) {
                                            {"com.tav.moresh.ipacertpwd", ""},
                                            {"com.tav.moresh.certpath", "/k/my.p12"}}},
                                          {"registry", {{"DigitalSign", "sign"}}}},
-                                    json{{"event", "pressed"}, {"title", ""}, {"button", "OK"}}));
+                                    json{{"event", "pressed"}, {"title", ""}, {"button", "OK"}},
+                                    json{{"event", "closed"},
+                                         {"class", "CSampleSheet"},
+                                         {"title", ""},
+                                         {"answer", "OK"},
+                                         {"result", 1}}));
   EXPECT_EQ(sheet.events.at(1), u"com.tav.moresh.certpwd=secret");
 }
 
@@ -381,7 +385,7 @@ TEST_F(ScriptedFrontEndTest, AButtonThatTheSheetDoesNotHaveIsToldAndTheSheetCanc
   EXPECT_EQ(sheet.DoModal(), kIdCancel);
 
   EXPECT_THAT(Mistakes(), ElementsAre("CSampleSheet: no button \"Save\" to press"));
-  EXPECT_THAT(sheet.events, IsEmpty());
+  EXPECT_THAT(sheet.events, ElementsAre(u"Cancel"));
 }
 
 }  // namespace

@@ -10,18 +10,11 @@ using ::testing::ElementsAre;
 
 class SignaturePasswordDlgTest : public ServicesTest {
  protected:
-  static Control& Field(CDialog& dialog, ControlKind kind) {
-    for (Control& control : dialog.Controls()) {
-      if (control.kind == kind) return control;
-    }
-    ADD_FAILURE() << "there is no such field";
-    return dialog.Controls().front();
-  }
   // The result of the dialog when its user fills it in so and presses that button.
   int Run(const std::u16string& password, bool remember, const std::u16string& button) {
     frontEnd.onDialog = [=](CDialog& dialog) {
-      Field(dialog, ControlKind::kPassword).text = password;
-      Field(dialog, ControlKind::kCheckBox).checked = remember;
+      Find<Edit>(dialog, u"Password:").Type(password);
+      if (remember) Find<CheckBox>(dialog, u"Remember password").Click();
       EXPECT_TRUE(PressButton(dialog, button));
     };
     return CSignaturePasswordDlg(nullptr).DoModal();
@@ -66,8 +59,8 @@ TEST_F(SignaturePasswordDlgTest, FieldsStartEmptyWhateverIsStored) {
 
   dialog.Create();
 
-  EXPECT_EQ(Field(dialog, ControlKind::kPassword).text, u"");
-  EXPECT_FALSE(Field(dialog, ControlKind::kCheckBox).checked);
+  EXPECT_EQ(Find<Edit>(dialog, u"Password:").text, u"");
+  EXPECT_FALSE(Find<CheckBox>(dialog, u"Remember password").checked);
 }
 
 TEST_F(SignaturePasswordDlgTest, ShowsItsFieldsUnderItsTitle) {
@@ -77,7 +70,7 @@ TEST_F(SignaturePasswordDlgTest, ShowsItsFieldsUnderItsTitle) {
 
   EXPECT_EQ(dialog.Title(), u"Digital signature password");
   std::vector<std::u16string> labels;
-  for (const Control& control : dialog.Controls()) labels.push_back(control.label);
+  for (const auto& control : dialog.Controls()) labels.push_back(control->label);
   EXPECT_THAT(labels, ElementsAre(u"Password:", u"Remember password", u"OK", u"Cancel"));
 }
 

@@ -36,7 +36,7 @@ TEST_F(TimestampRetryDlgTest, TellsTheErrorAndTheConsequenceBeforeItsButtons) {
 
   EXPECT_EQ(dialog.Title(), u"Zenvoka Quorl Professional");
   std::vector<std::u16string> texts;
-  for (const Control& control : dialog.Controls()) texts.push_back(control.text);
+  for (const auto& control : dialog.Controls()) texts.push_back(control->text);
   EXPECT_THAT(texts,
               ElementsAre(u"There was an error connecting to the timestamp server. You may not "
                           u"have a connection to the network, or the server itself may have a "
@@ -49,11 +49,9 @@ TEST_F(TimestampRetryDlgTest, TellsTheErrorAndTheConsequenceBeforeItsButtons) {
 TEST_F(TimestampRetryDlgTest, OnlyRetryIsMarkedAsTheDefaultButton) {
   CTimestampRetryDlg dialog(nullptr);
 
-  std::vector<std::u16string> defaults;
-  for (const Control& control : dialog.Controls()) {
-    if (control.isDefault) defaults.push_back(control.label);
-  }
-  EXPECT_THAT(defaults, ElementsAre(u"Retry"));
+  EXPECT_FALSE(Find<Button>(dialog, u"Disable Timestamping").isDefault);
+  EXPECT_TRUE(Find<Button>(dialog, u"Retry").isDefault);
+  EXPECT_FALSE(Find<Button>(dialog, u"Cancel").isDefault);
 }
 
 }  // namespace

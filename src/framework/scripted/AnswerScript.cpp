@@ -13,8 +13,13 @@ namespace {
 
 using nlohmann::json;
 
-constexpr std::array<std::string_view, 10> kMembers = {
-    "to", "contains", "class", "title", "set", "settings", "registry", "after", "press", "repeat"};
+using Members = std::vector<std::string_view>;
+
+const Members kStepMembers = {"page", "select", "set", "press", "show"};
+const Members kAnswerMembers = {"to",     "contains", "class",  "title",    "select",
+                                "set",    "page",     "press",  "show",     "steps",
+                                "choose", "after",    "repeat", "settings", "registry"};
+constexpr std::array<std::string_view, 5> kKinds = {"message", "dialog", "sheet", "file", "folder"};
 
 std::string ReadSecretFile(const std::string& path) {
   std::ifstream stream(path, std::ios::binary);
@@ -71,30 +76,52 @@ std::vector<std::string> ReadPress(const json& answer) {
   return press.get<std::vector<std::string>>();
 }
 
-void RefuseUnknownMembers(const json& answer) {
-  for (const auto& [member, value] : answer.items()) {
-    if (std::find(kMembers.begin(), kMembers.end(), member) == kMembers.end()) {
-      throw std::runtime_error("an answer has no member \"" + member + "\"");
+void RefuseUnknownMembers(const json& source, const Members& known, const std::string& name) {
+  if (!source.is_object()) throw std::runtime_error(name + " is an object");
+  for (const auto& [member, value] : source.items()) {
+    if (std::find(known.begin(), known.end(), member) == known.end()) {
+      throw std::runtime_error(name + " has no member \"" + member + "\"");
     }
   }
 }
 
+ScriptStep ReadStep(const json& source) {
+  ScriptStep step;
+  step.page = ReadOptional<std::string>(source, "page").value_or("");
+  step.select = ReadValues(source, "select");
+  step.set = ReadValues(source, "set");
+  step.press = ReadPress(source);
+  step.show = ReadOptional<bool>(source, "show").value_or(false);
+  return step;
+}
+
+// An answer's own members are its first step.
+std::vector<ScriptStep> ReadSteps(const json& answer) {
+  std::vector<ScriptStep> steps = {ReadStep(answer)};
+  if (!answer.contains("steps")) return steps;
+  for (const json& step : answer.at("steps")) {
+    RefuseUnknownMembers(step, kStepMembers, "a step");
+    steps.push_back(ReadStep(step));
+  }
+  return steps;
+}
+
 ScriptAnswer ReadAnswer(const json& source) {
-  if (!source.is_object()) throw std::runtime_error("an answer is an object");
-  RefuseUnknownMembers(source);
+  RefuseUnknownMembers(source, kAnswerMembers, "an answer");
   ScriptAnswer answer;
   answer.to = source.at("to").get<std::string>();
   answer.contains = ReadOptional<std::string>(source, "contains");
   answer.className = ReadOptional<std::string>(source, "class");
   answer.title = ReadOptional<std::string>(source, "title");
-  answer.set = ReadValues(source, "set");
+  answer.steps = ReadSteps(source);
   answer.settings = ReadValues(source, "settings");
   answer.registry = ReadValues(source, "registry");
+  answer.choose = ReadOptional<std::string>(source, "choose");
   answer.after = ReadAfter(source);
-  answer.press = ReadPress(source);
   answer.repeat = ReadOptional<bool>(source, "repeat").value_or(false);
-  if (answer.to != "message" && answer.to != "dialog" && answer.to != "sheet") {
-    throw std::runtime_error("\"to\" is \"message\", \"dialog\" or \"sheet\"");
+  if (std::find(kKinds.begin(), kKinds.end(), answer.to) == kKinds.end()) {
+    throw std::runtime_error(
+        "\"to\" is \"message\", \"dialog\", \"sheet\", \"file\" or \"folder\"");
   }
   return answer;
 }

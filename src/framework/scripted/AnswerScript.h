@@ -10,19 +10,28 @@
 
 namespace qutav {
 
-/// A value that a script gives: a text, a switch, or a reference that keeps a secret out of it.
+/// Values by control. A script may keep a secret out of itself by a reference; here it is resolved.
 using ScriptValues = std::vector<std::pair<std::string, std::string>>;
+
+/// What a script does to a dialog in one go, in the order of these members.
+struct ScriptStep {
+  std::string page;     ///< of a sheet, the English title of the page to turn to; empty: none
+  ScriptValues select;  ///< rows to choose, by list
+  ScriptValues set;     ///< "true" and "false" for switches
+  std::vector<std::string> press;
+  bool show = false;  ///< whether to write the controls to the transcript in the end
+};
 
 struct ScriptAnswer {
   std::string to;
   std::optional<std::string> contains;
   std::optional<std::string> className;
   std::optional<std::string> title;
-  ScriptValues set;  ///< "true" and "false" for switches
+  std::vector<ScriptStep> steps;
   ScriptValues settings;
   ScriptValues registry;
+  std::optional<std::string> choose;  ///< the path that a file or folder dialog gives
   std::optional<unsigned> after;
-  std::vector<std::string> press;
   bool repeat = false;
 };
 

@@ -1,5 +1,11 @@
 #include "framework/scripted/ControlRecord.h"
 
+#include "framework/CStretchBitmapButton.h"
+#include "framework/CheckList.h"
+#include "framework/ComboBox.h"
+#include "framework/ControlVisitor.h"
+#include "framework/ListBox.h"
+#include "framework/Picture.h"
 #include "platform/Text.h"
 
 namespace qutav {
@@ -7,67 +13,102 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-const char* KindName(ControlKind kind) {
-  switch (kind) {
-    case ControlKind::kText:
-      return "text";
-    case ControlKind::kEdit:
-      return "edit";
-    case ControlKind::kPassword:
+const char* EditKind(EditStyle style) {
+  switch (style) {
+    case EditStyle::kPassword:
       return "password";
-    case ControlKind::kCheckBox:
-      return "check box";
-    case ControlKind::kButton:
-      return "button";
-    case ControlKind::kProgress:
+    case EditStyle::kMultiLine:
+      return "multi-line edit";
+    case EditStyle::kDigits:
+      return "number edit";
+    case EditStyle::kReadOnly:
+      return "read-only edit";
+    case EditStyle::kPlain:
       break;
   }
-  return "progress";
+  return "edit";
 }
 
-std::string Masked(bool secret, const std::string& text) {
-  return secret && !text.empty() ? "***" : text;
+Json TextList(const std::vector<std::u16string>& texts) {
+  Json list = Json::array();
+  for (const std::u16string& text : texts) list.push_back(ToUtf8(text));
+  return list;
 }
 
-struct Address {
-  std::u16string label;
-  int occurrence;
+class Recorder final : public ControlVisitor {
+ public:
+  explicit Recorder(Control& control) {
+    control.Accept(*this);
+    if (!control.enabled) record_["enabled"] = false;
+    if (!control.visible) record_["visible"] = false;
+  }
+  Json Take() { return std::move(record_); }
+
+  void Visit(Label& label) override { Begin(label, "text", label.text); }
+  void Visit(GroupBox& box) override { Begin(box, "group", box.text); }
+  void Visit(Button& button) override { Begin(button, "button", button.text); }
+  void Visit(ProgressBar& bar) override { Begin(bar, "progress", bar.text); }
+  void Visit(Edit& edit) override {
+    const bool masked = edit.style == EditStyle::kPassword && !edit.text.empty();
+    Begin(edit, EditKind(edit.style), masked ? u"***" : edit.text);
+  }
+  void Visit(CheckBox& box) override {
+    Begin(box, "check box", box.text);
+    record_["checked"] = box.checked;
+  }
+  void Visit(RadioButton& button) override {
+    Begin(button, "radio button", button.text);
+    record_["checked"] = button.checked;
+  }
+  void Visit(ComboBox& combo) override {
+    Begin(combo, combo.style == ComboStyle::kDropList ? "drop list" : "combo box", combo.text);
+    record_["rows"] = TextList(combo.Rows());
+    record_["selected"] = combo.GetCurSel();
+  }
+  void Visit(ListBox& list) override {
+    Begin(list, "list box", list.text);
+    record_["rows"] = TextList(list.Rows());
+    record_["selected"] = list.GetCurSel();
+  }
+  void Visit(CheckList& list) override {
+    Begin(list, "check list", list.text);
+    record_["rows"] = Json::array();
+    for (const CheckList::Row& row : list.Rows()) {
+      record_["rows"].push_back({{"text", ToUtf8(row.text)}, {"checked", row.checked}});
+    }
+    record_["selected"] = list.FirstSelected();
+  }
+  void Visit(CStretchBitmapButton& button) override { Begin(button, "image button", button.text); }
+  void Visit(Picture& picture) override {
+    Begin(picture, "picture", picture.text);
+    if (picture.Painted() == nullptr) return;
+    const Rectangle& target = picture.Target();
+    record_["painted"] = {target.left, target.top, target.right, target.bottom};
+  }
+
+ private:
+  void Begin(const Control& control, const char* kind, const std::u16string& text) {
+    record_ = {{"label", ToUtf8(control.label)}, {"kind", kind}, {"text", ToUtf8(text)}};
+    if (!control.caption.empty()) record_["caption"] = ToUtf8(control.caption);
+  }
+
+  Json record_;
 };
-
-Address ParseAddress(const std::u16string& text) {
-  const std::size_t sign = text.rfind(u'#');
-  const int occurrence = sign == text.npos ? 0 : ParseDecimal(text.substr(sign + 1));
-  if (occurrence < 2) return {text, 1};
-  return {text.substr(0, sign), occurrence};
-}
 
 }  // namespace
 
-Control* FindControl(CDialog& dialog, const std::u16string& label) {
-  Address address = ParseAddress(label);
-  for (Control& control : dialog.Controls()) {
-    if (control.label == address.label && --address.occurrence == 0) return &control;
+Json RecordValues(const ScriptValues& values) {
+  Json record = Json::object();
+  for (const auto& [key, value] : values) {
+    record[key] = key.ends_with("pwd") && !value.empty() ? "***" : value;
   }
-  return nullptr;
+  return record;
 }
 
 Json RecordControls(const CDialog& dialog) {
   Json records = Json::array();
-  for (const Control& control : dialog.Controls()) {
-    const bool secret = control.kind == ControlKind::kPassword;
-    Json record{{"label", ToUtf8(control.label)},
-                {"kind", KindName(control.kind)},
-                {"text", Masked(secret, ToUtf8(control.text))}};
-    if (control.kind == ControlKind::kCheckBox) record["checked"] = control.checked;
-    records.push_back(std::move(record));
-  }
+  for (const auto& control : dialog.Controls()) records.push_back(Recorder(*control).Take());
   return records;
-}
-
-Json RecordValues(const ScriptValues& values) {
-  Json record = Json::object();
-  for (const auto& [key, value] : values) record[key] = Masked(key.ends_with("pwd"), value);
-  return record;
 }
 
 }  // namespace qutav

@@ -9,6 +9,7 @@
 
 #include "framework/CPropertySheet.h"
 #include "framework/scripted/ControlRecord.h"
+#include "framework/scripted/StepPlayer.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 
@@ -39,30 +40,44 @@ int DefaultAnswer(MessageButtons buttons) {
   return buttons == MessageButtons::kOk ? kIdOk : kIdCancel;
 }
 
-// False when the control is not one to fill, or a check box is given no switch.
-bool FillControl(Control& control, const std::string& value) {
-  if (control.kind == ControlKind::kCheckBox) {
-    control.checked = value == "true";
-    return control.checked || value == "false";
-  }
-  control.text = FromUtf8(value);
-  return control.kind == ControlKind::kEdit || control.kind == ControlKind::kPassword;
-}
-
-// Null for a label that no button has, and for one that cannot be pressed now.
-Control* FindButton(CDialog& dialog, const std::string& label) {
-  Control* control = FindControl(dialog, FromUtf8(label));
-  const bool pressable = control != nullptr && control->kind == ControlKind::kButton &&
-                         control->enabled && control->visible;
-  return pressable ? control : nullptr;
-}
-
 Json OpeningRecord(const CDialog& dialog) {
   return {{"event", "dialog"},
           {"class", ToUtf8(dialog.ClassName())},
           {"title", ToUtf8(dialog.Title())},
           {"controls", RecordControls(dialog)}};
 }
+
+Json TextOrNull(const std::optional<std::u16string>& text) {
+  return text ? Json(ToUtf8(*text)) : Json(nullptr);
+}
+
+// A sheet that always fits its screen.
+class ScriptedSheetWindow final : public SheetWindow {
+ public:
+  ScriptedSheetWindow(const CPropertySheet& sheet, Transcript& transcript)
+      : sheet_(sheet), transcript_(transcript) {}
+
+  Rectangle WorkArea() override { return {0, 0, 1024, 738}; }
+  Rectangle WindowRectangle() override { return {0, 0, 520, 600}; }
+  int ScrollBarWidth() override { return 17; }
+  Rectangle ButtonRectangle(int) override { return {430, 560, 505, 583}; }
+  void Resize(int, int) override {}
+  void ShowScrollBar(const ScrollInfo&) override {}
+  void SetScrollPosition(int, bool) override {}
+  void ScrollContents(int) override {}
+  void ShowPage(int index) override {
+    const CPropertyPage& page = *sheet_.Pages()[static_cast<std::size_t>(index)];
+    transcript_.Write({{"event", "page"},
+                       {"index", index},
+                       {"class", ToUtf8(page.ClassName())},
+                       {"title", ToUtf8(page.Title())},
+                       {"controls", RecordControls(page)}});
+  }
+
+ private:
+  const CPropertySheet& sheet_;
+  Transcript& transcript_;
+};
 
 }  // namespace
 
@@ -79,8 +94,8 @@ int ScriptedFrontEnd::ShowMessage(const MessageBoxRequest& request) {
   const std::string title = ToUtf8(request.title);
   const auto answer = TakeAnswer({"message", "", title, text});
   int result = DefaultAnswer(request.buttons);
-  if (answer && !answer->press.empty()) {
-    const std::string& button = answer->press.front();
+  if (answer && !answer->steps.front().press.empty()) {
+    const std::string& button = answer->steps.front().press.front();
     const auto pressed = ResultOfButton(request.buttons, button);
     if (!pressed) ReportMistake("message \"" + text + "\": no button \"" + button + "\" to press");
     result = pressed.value_or(result);
@@ -101,73 +116,46 @@ int ScriptedFrontEnd::RunModal(CDialog& dialog) {
   transcript_.Write(OpeningRecord(dialog));
   pressed_.clear();
   RunDialog(dialog, TakeAnswer({"dialog", ToUtf8(dialog.ClassName()), ToUtf8(dialog.Title()), ""}));
+  RecordClosed(dialog);
+  dialog.Destroy();
+  return dialog.Result();
+}
+
+void ScriptedFrontEnd::RecordClosed(const CDialog& dialog) {
   transcript_.Write({{"event", "closed"},
                      {"class", ToUtf8(dialog.ClassName())},
                      {"title", ToUtf8(dialog.Title())},
                      {"answer", pressed_.empty() ? Json(nullptr) : Json(pressed_)},
                      {"result", dialog.Result()}});
-  dialog.Destroy();
-  return dialog.Result();
 }
 
 void ScriptedFrontEnd::RunDialog(CDialog& dialog, const std::optional<ScriptAnswer>& answer) {
-  if (answer && !Fill(dialog, answer->set)) return;
+  StepPlayer player(dialog, transcript_, pressed_);
   const bool atOnce = answer && (answer->after.value_or(0) == 0 || dialog.Timers().empty());
-  if (atOnce) Press(dialog, answer->press);
+  if (atOnce) player.Play(answer->steps);
   if (!dialog.HasEnded() && !dialog.Timers().empty()) RunTimers(dialog, answer);
-  if (!dialog.HasEnded()) PressOne(dialog, "Cancel");
+  player.Press("Cancel");
 }
 
 // The loop of a dialog that ends itself: its timer fires until it does, or until the script
 // presses.
 void ScriptedFrontEnd::RunTimers(CDialog& dialog, const std::optional<ScriptAnswer>& answer) {
+  StepPlayer player(dialog, transcript_, pressed_);
   for (unsigned count = 1; !dialog.HasEnded() && !dialog.Timers().empty(); ++count) {
     const auto [id, period] = *dialog.Timers().begin();
     TheServices().clock->Sleep(period);
-    dialog.OnTimer(id);
+    CDialog::Dispatch([&, timer = id] { dialog.OnTimer(timer); });
     transcript_.Write({{"event", "tick"}, {"class", ToUtf8(dialog.ClassName())}, {"count", count}});
-    if (answer && answer->after == count && !dialog.HasEnded()) Press(dialog, answer->press);
+    if (answer && answer->after == count) player.Play(answer->steps);
   }
-}
-
-bool ScriptedFrontEnd::Fill(CDialog& dialog, const ScriptValues& values) {
-  for (const auto& [label, value] : values) {
-    Control* control = FindControl(dialog, FromUtf8(label));
-    if (control != nullptr && FillControl(*control, value)) continue;
-    CancelForMistake(dialog, "no control \"" + label + "\" that takes this value");
-    return false;
-  }
-  return true;
-}
-
-void ScriptedFrontEnd::Press(CDialog& dialog, const std::vector<std::string>& buttons) {
-  for (const std::string& button : buttons) {
-    if (dialog.HasEnded() || !PressOne(dialog, button)) return;
-  }
-}
-
-bool ScriptedFrontEnd::PressOne(CDialog& dialog, const std::string& label) {
-  Control* button = FindButton(dialog, label);
-  if (button == nullptr) {
-    CancelForMistake(dialog, "no button \"" + label + "\" to press");
-    return false;
-  }
-  button->onClick();
-  pressed_ = label;  // behind the click, which may have shown another dialog
-  return true;
 }
 
 void ScriptedFrontEnd::ReportMistake(const std::string& mistake) {
   transcript_.Write({{"event", "script-error"}, {"text", mistake}});
 }
 
-void ScriptedFrontEnd::CancelForMistake(CDialog& dialog, const std::string& mistake) {
-  ReportMistake(ToUtf8(dialog.ClassName()) + ": " + mistake);
-  dialog.OnCancel();
-}
-
 int ScriptedFrontEnd::RunModal(CPropertySheet& sheet) {
-  sheet.Create();
+  ScriptedSheetWindow window(sheet, transcript_);
   const std::string title = ToUtf8(sheet.Title());
   const auto answer = TakeAnswer({"sheet", ToUtf8(sheet.ClassName()), title, ""});
   const ScriptAnswer given = answer.value_or(ScriptAnswer{});
@@ -177,21 +165,62 @@ int ScriptedFrontEnd::RunModal(CPropertySheet& sheet) {
   }
   transcript_.Write({{"event", "sheet"},
                      {"title", title},
-                     {"page", sheet.ActivePage()},
+                     {"page", sheet.GetActiveIndex()},
                      {"settings", RecordValues(given.settings)},
                      {"registry", RecordValues(given.registry)}});
-  std::vector<std::string> buttons = given.press;
-  buttons.emplace_back("Cancel");
-  for (const std::string& button : buttons) {
-    if (sheet.HasEnded()) break;
-    if (FindButton(sheet, button) != nullptr) {
-      transcript_.Write({{"event", "pressed"}, {"title", title}, {"button", button}});
-    }
-    PressOne(sheet, button);
-  }
+  sheet.Attach(&window);
+  sheet.Create();
+  pressed_.clear();
+  StepPlayer player(sheet, transcript_, pressed_);
+  if (answer) player.Play(answer->steps);
+  player.Press("Cancel");
+  RecordClosed(sheet);
   sheet.Destroy();
+  sheet.Attach(nullptr);
   return sheet.Result();
 }
+
+std::optional<std::u16string> ScriptedFrontEnd::Chosen(const Shown& shown) {
+  const auto answer = TakeAnswer(shown);
+  if (!answer || !answer->choose) return {};
+  return ReplaceAll(FromUtf8(*answer->choose), u"/", u"\\");
+}
+
+std::optional<std::u16string> ScriptedFrontEnd::ChooseFile(const FileDialogRequest& request) {
+  const bool opens = request.kind == FileDialogKind::kOpen;
+  auto chosen = Chosen({"file", "", ToUtf8(request.title), ToUtf8(request.filter)});
+  if (opens && chosen && !TheServices().files->Exists(*chosen)) {
+    ReportMistake("file dialog: no file " + ToUtf8(*chosen) + " to open");
+    chosen.reset();
+  }
+  transcript_.Write({{"event", "file"},
+                     {"kind", opens ? "open" : "save"},
+                     {"title", ToUtf8(request.title)},
+                     {"filter", ToUtf8(request.filter)},
+                     {"extension", ToUtf8(request.defaultExtension)},
+                     {"name", ToUtf8(request.startName)},
+                     {"folder", ToUtf8(request.startFolder)},
+                     {"answer", TextOrNull(chosen)}});
+  return chosen;
+}
+
+std::optional<std::u16string> ScriptedFrontEnd::ChooseFolder(const FolderDialogRequest& request) {
+  const auto chosen = Chosen({"folder", "", ToUtf8(request.title), ""});
+  transcript_.Write(
+      {{"event", "folder"}, {"title", ToUtf8(request.title)}, {"answer", TextOrNull(chosen)}});
+  return chosen;
+}
+
+void ScriptedFrontEnd::OpenLink(const std::u16string& url) {
+  transcript_.Write({{"event", "link"}, {"url", ToUtf8(url)}});
+}
+
+// Any font will do where nothing is drawn.
+int ScriptedFrontEnd::TextWidth(const Control& control, const std::u16string& text) {
+  return static_cast<int>(text.size()) * AverageCharacterWidth(control);
+}
+
+int ScriptedFrontEnd::AverageCharacterWidth(const Control&) { return 6; }
 
 Rectangle ScriptedFrontEnd::DesktopRectangle() { return {0, 0, 1024, 768}; }
 

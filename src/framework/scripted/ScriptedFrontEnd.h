@@ -9,8 +9,6 @@
 
 namespace qutav {
 
-struct Control;
-
 class ScriptedFrontEnd final : public FrontEnd {
  public:
   ScriptedFrontEnd(AnswerScript script, Transcript& transcript);
@@ -20,19 +18,24 @@ class ScriptedFrontEnd final : public FrontEnd {
   int ShowMessage(const MessageBoxRequest& request) override;
   int RunModal(CDialog& dialog) override;
   int RunModal(CPropertySheet& sheet) override;
+  std::optional<std::u16string> ChooseFile(const FileDialogRequest& request) override;
+  std::optional<std::u16string> ChooseFolder(const FolderDialogRequest& request) override;
+  void OpenLink(const std::u16string& url) override;
+  int TextWidth(const Control& control, const std::u16string& text) override;
+  int AverageCharacterWidth(const Control& control) override;
+  void Repaint(CDialog&) override {}
   Rectangle ActiveWindowRectangle() override { return {}; }
   Rectangle DesktopRectangle() override;
   Rectangle DialogRectangle(const CDialog& dialog) override;
 
  private:
   std::optional<ScriptAnswer> TakeAnswer(const Shown& shown);
+  /// The path that an answer gives, in Windows form.
+  std::optional<std::u16string> Chosen(const Shown& shown);
   void RunDialog(CDialog& dialog, const std::optional<ScriptAnswer>& answer);
   void RunTimers(CDialog& dialog, const std::optional<ScriptAnswer>& answer);
-  bool Fill(CDialog& dialog, const ScriptValues& values);
-  void Press(CDialog& dialog, const std::vector<std::string>& buttons);
-  bool PressOne(CDialog& dialog, const std::string& label);
+  void RecordClosed(const CDialog& dialog);
   void ReportMistake(const std::string& mistake);
-  void CancelForMistake(CDialog& dialog, const std::string& mistake);
 
   std::mutex mutex_;  // a worker may show a message while the script thread is in a dialog
   AnswerScript script_;

@@ -14,6 +14,7 @@ void InstallSystemServices() {
   services.folders = &SystemFolders();
   services.language = &SystemLanguage();
   services.threads = &StandardThreads();
+  services.images = &SystemImages();
 }
 
 }  // namespace qutav

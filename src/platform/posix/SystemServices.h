@@ -5,12 +5,14 @@ namespace qutav {
 
 class Files;
 class Folders;
+class Images;
 class Language;
 class Processes;
 class Registry;
 
 Files& SystemFiles();
 Folders& SystemFolders();
+Images& SystemImages();
 Language& SystemLanguage();
 Processes& SystemProcesses();
 Registry& SystemRegistry();

@@ -1,0 +1,43 @@
+// Carries out the steps of a script on a dialog or a sheet.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "framework/CPropertySheet.h"
+#include "framework/scripted/AnswerScript.h"
+#include "framework/scripted/Transcript.h"
+
+namespace qutav {
+
+class StepPlayer {
+ public:
+  /// `pressed` is given the label of each button after its click.
+  StepPlayer(CDialog& dialog, Transcript& transcript, std::string& pressed)
+      : dialog_(dialog), transcript_(transcript), pressed_(pressed) {}
+  StepPlayer(CPropertySheet& sheet, Transcript& transcript, std::string& pressed)
+      : dialog_(sheet), sheet_(&sheet), transcript_(transcript), pressed_(pressed) {}
+
+  /// Until the dialog ends. A step that cannot be carried out is a mistake of the script: it is
+  /// told, and the dialog is cancelled.
+  void Play(const std::vector<ScriptStep>& steps);
+  /// Presses one button, unless the dialog has ended.
+  void Press(const std::string& label);
+
+ private:
+  void PlayStep(const ScriptStep& step);
+  void TurnTo(const std::string& page);
+  void Select(const std::string& list, const std::string& row);
+  void Set(const std::string& label, const std::string& value);
+  void Cancel(const std::string& mistake);
+  void Show();
+  /// The dialog, or the sheet's active page.
+  CDialog& Front() const;
+
+  CDialog& dialog_;
+  CPropertySheet* sheet_ = nullptr;
+  Transcript& transcript_;
+  std::string& pressed_;
+};
+
+}  // namespace qutav

@@ -1,0 +1,150 @@
+#include "framework/scripted/UserActions.h"
+
+#include "framework/CStretchBitmapButton.h"
+#include "framework/CheckList.h"
+#include "framework/ComboBox.h"
+#include "framework/ControlVisitor.h"
+#include "framework/ListBox.h"
+#include "framework/Picture.h"
+#include "platform/Text.h"
+
+namespace qutav {
+namespace {
+
+struct Address {
+  std::u16string label;
+  int occurrence;
+};
+
+Address ParseAddress(const std::u16string& text) {
+  const std::size_t sign = text.rfind(u'#');
+  const int occurrence = sign == text.npos ? 0 : ParseDecimal(text.substr(sign + 1));
+  if (occurrence < 2) return {text, 1};
+  return {text.substr(0, sign), occurrence};
+}
+
+bool IsUsable(const Control& control) { return control.enabled && control.visible; }
+
+// By what a user can do to it; nothing, unless a kind says otherwise.
+class Action : public ControlVisitor {
+ public:
+  bool Do(Control& control) {
+    if (IsUsable(control)) control.Accept(*this);
+    return done_;
+  }
+  void Visit(Label&) override {}
+  void Visit(GroupBox&) override {}
+  void Visit(Edit&) override {}
+  void Visit(Button&) override {}
+  void Visit(CheckBox&) override {}
+  void Visit(RadioButton&) override {}
+  void Visit(ProgressBar&) override {}
+  void Visit(ComboBox&) override {}
+  void Visit(ListBox&) override {}
+  void Visit(CheckList&) override {}
+  void Visit(CStretchBitmapButton&) override {}
+  void Visit(Picture&) override {}
+
+ protected:
+  bool done_ = false;
+};
+
+class SetAction final : public Action {
+ public:
+  explicit SetAction(const std::u16string& value) : value_(value) {}
+
+  void Visit(Edit& edit) override {
+    if (edit.style == EditStyle::kReadOnly) return;
+    edit.Type(value_);
+    done_ = true;
+  }
+  void Visit(ComboBox& combo) override {
+    if (combo.style == ComboStyle::kDropDown) {
+      combo.Type(value_);
+      done_ = true;
+      return;
+    }
+    const int row = combo.FindStringExact(value_);
+    if (row >= 0) combo.Choose(row);
+    done_ = row >= 0;
+  }
+  void Visit(CheckBox& box) override {
+    done_ = IsSwitch();
+    if (done_ && box.checked != IsOn()) box.Click();
+  }
+  void Visit(RadioButton& button) override {
+    done_ = IsOn();
+    if (done_) button.Click();
+  }
+
+ private:
+  bool IsOn() const { return value_ == u"true"; }
+  bool IsSwitch() const { return IsOn() || value_ == u"false"; }
+
+  const std::u16string& value_;
+};
+
+class SelectAction final : public Action {
+ public:
+  explicit SelectAction(const std::u16string& row) : row_(row) {}
+
+  void Visit(ComboBox& combo) override {
+    const int row = combo.FindStringExact(row_);
+    if (row >= 0) combo.Choose(row);
+    done_ = row >= 0;
+  }
+  void Visit(ListBox& list) override {
+    const int row = list.FindStringExact(row_);
+    if (row >= 0) list.Choose(row);
+    done_ = row >= 0;
+  }
+  void Visit(CheckList& list) override {
+    const int row = list.FindRow(row_);
+    if (row >= 0) list.ChooseByUser(row);
+    done_ = row >= 0;
+  }
+
+ private:
+  const std::u16string& row_;
+};
+
+bool SwitchRow(const CDialog& dialog, const std::u16string& text, const std::u16string& value) {
+  if (value != u"true" && value != u"false") return false;
+  for (const auto& control : dialog.Controls()) {
+    auto* list = dynamic_cast<CheckList*>(control.get());
+    const int row = list == nullptr || !IsUsable(*list) ? -1 : list->FindRow(text);
+    if (row < 0) continue;
+    if (list->IsChecked(row) != (value == u"true")) list->ToggleByUser(row);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Control* FindControl(const CDialog& dialog, const std::u16string& label) {
+  Address address = ParseAddress(label);
+  for (const auto& control : dialog.Controls()) {
+    if (control->label == address.label && --address.occurrence == 0) return control.get();
+  }
+  return nullptr;
+}
+
+bool SetByUser(const CDialog& dialog, const std::u16string& label, const std::u16string& value) {
+  Control* control = FindControl(dialog, label);
+  return control == nullptr ? SwitchRow(dialog, label, value) : SetAction(value).Do(*control);
+}
+
+bool SelectByUser(const CDialog& dialog, const std::u16string& label, const std::u16string& row) {
+  Control* control = FindControl(dialog, label);
+  return control != nullptr && SelectAction(row).Do(*control);
+}
+
+Clickable* FindButton(const CDialog& dialog, const std::u16string& label) {
+  Control* control = FindControl(dialog, label);
+  if (control == nullptr || !IsUsable(*control)) return nullptr;
+  if (auto* button = dynamic_cast<Button*>(control)) return button;
+  return dynamic_cast<CStretchBitmapButton*>(control);
+}
+
+}  // namespace qutav
