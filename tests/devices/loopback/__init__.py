@@ -1,0 +1,1 @@
+"""An Android device on the loopback network, as far as adb and an installation need one."""
