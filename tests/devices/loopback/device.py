@@ -1,5 +1,6 @@
 """The device itself: a listening socket, and what it does when its moment has come."""
 
+import contextlib
 import socket
 
 from .record import Record
@@ -59,7 +60,8 @@ class Device:
     def _leave(self):
         self._left = True
         for end in (self._listener, self._connected):
-            end.shutdown(socket.SHUT_RDWR)
+            with contextlib.suppress(OSError):  # the other side may have been quicker
+                end.shutdown(socket.SHUT_RDWR)
 
     def _banner(self):
         properties = "".join(f"{name}={value};" for name, value in self.properties().items()

@@ -9,8 +9,14 @@ import tav.kob.certificate.CertificateArguments;
 import tav.kob.certificate.CertificateMaker;
 import tav.kob.command.ArgumentCursor;
 import tav.kob.command.PackageArguments;
+import tav.kob.device.AndroidDevice;
+import tav.kob.device.DeviceArguments;
+import tav.kob.device.DeviceListing;
 
-/** One run of the tool. Success says nothing at all: the caller takes any output for a warning. */
+/**
+ * One run of the tool. Success says nothing that was not asked for: the caller takes any output of a
+ * packaging for a warning.
+ */
 public final class Tool {
     private Tool() {
     }
@@ -44,6 +50,19 @@ public final class Tool {
                 break;
             case "-certificate":
                 CertificateMaker.run(CertificateArguments.read(arguments));
+                break;
+            case "-devices":
+                DeviceArguments.readListing(arguments);
+                DeviceListing.print(System.out);
+                break;
+            case "-installApp":
+                AndroidDevice.install(DeviceArguments.readInstall(arguments));
+                break;
+            case "-uninstallApp":
+                AndroidDevice.uninstall(DeviceArguments.readApplication(arguments));
+                break;
+            case "-launchApp":
+                AndroidDevice.launch(DeviceArguments.readApplication(arguments));
                 break;
             default:
                 throw Failure.usage("unknown command " + command);

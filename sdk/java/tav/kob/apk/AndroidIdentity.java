@@ -1,11 +1,15 @@
 package tav.kob.apk;
 
+import java.util.Optional;
 import java.util.regex.Pattern;
 import tav.kob.base.Failure;
 import tav.kob.descriptor.Descriptor;
 
-/** Package name and version code, which Android asks for in forms of its own. */
-final class AndroidIdentity {
+/** Names and version code, which Android asks for in forms of its own. */
+public final class AndroidIdentity {
+    /** The class that shows the application, in every package that this tool makes. */
+    public static final String ACTIVITY = "tav.practice.PlayerActivity";
+
     private static final String PREFIX = "tav.";
     private static final Pattern PACKAGE_NAME = Pattern.compile("[A-Za-z][A-Za-z0-9]*(\\.[A-Za-z][A-Za-z0-9]*)+");
     private static final int PART_LIMIT = 1000;
@@ -15,13 +19,17 @@ final class AndroidIdentity {
     }
 
     /** Android wants two parts at least, and each must begin with a letter. */
-    static String packageName(Descriptor descriptor) throws Failure {
-        String id = descriptor.id();
+    public static Optional<String> packageName(String id) {
         String name = id.contains(".") ? id : PREFIX + id;
-        if (!PACKAGE_NAME.matcher(name).matches()) {
+        return Optional.of(name).filter(PACKAGE_NAME.asMatchPredicate());
+    }
+
+    static String packageName(Descriptor descriptor) throws Failure {
+        Optional<String> name = packageName(descriptor.id());
+        if (name.isEmpty()) {
             throw descriptor.invalidValue("application.id");
         }
-        return name;
+        return name.get();
     }
 
     static int versionCode(String versionNumber) {

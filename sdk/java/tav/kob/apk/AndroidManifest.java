@@ -22,7 +22,6 @@ final class AndroidManifest {
     static final int MIN_SDK = 21;
 
     private static final int TARGET_SDK = 33;
-    private static final String ACTIVITY = "tav.practice.PlayerActivity";
     private static final int THEME_NO_TITLE_BAR = 0x01030006;
     private static final int THEME_FULL_SCREEN = 0x01030007;
     private static final Map<String, Integer> ORIENTATIONS = Map.of("landscape", 0, "portrait", 1);
@@ -62,7 +61,7 @@ final class AndroidManifest {
         return new ManifestElement("activity")
                 .reference(THEME, descriptor.isFullScreen() ? THEME_FULL_SCREEN : THEME_NO_TITLE_BAR)
                 .reference(LABEL, ResourceTable.LABEL_ID)
-                .text(NAME, ACTIVITY)
+                .text(NAME, AndroidIdentity.ACTIVITY)
                 .flag(EXPORTED, true)
                 .number(SCREEN_ORIENTATION,
                         ORIENTATIONS.getOrDefault(descriptor.aspectRatio(), UNSPECIFIED_ORIENTATION))

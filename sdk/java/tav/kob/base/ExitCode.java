@@ -12,6 +12,9 @@ public final class ExitCode {
     public static final int SIGNING_FAILED = 9;
     public static final int TIMESTAMP_FAILED = 10;
     public static final int CERTIFICATE_NOT_CREATED = 11;
+    public static final int DEVICE_LOST = 12;
+    public static final int DEVICE_REFUSED = 14;
+    public static final int DEVICE_UNREACHABLE = 15;
 
     private ExitCode() {
     }
