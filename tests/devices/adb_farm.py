@@ -21,7 +21,7 @@ import tempfile
 import time
 
 DEVICE = pathlib.Path(__file__).resolve().parent / "loopback_device.py"
-PATIENCE_SECONDS = 30
+PATIENCE_SECONDS = 60
 POLL_SECONDS = 0.02
 SERVER_ATTEMPTS = 5
 
@@ -59,10 +59,12 @@ class FarmDevice:
 
     def plug_in(self):
         """Starts the device, at its port if it had one, and waits until adb shows its state."""
+        self.end()  # it may have left by itself
         command = [sys.executable, DEVICE, "--record", self.folder, "--port", str(self.port)]
         for name, value in self._options.items():
             option = "--" + name.replace("_", "-")
-            command += [option] if value is True else [option, value]
+            if value:
+                command += [option] if value is True else [option, value]
         self._process = subprocess.Popen([str(part) for part in command], text=True,
                                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE)
         said = self._process.stdout.readline()

@@ -22,7 +22,7 @@ DESCRIPTOR = f"""<application xmlns="http://ns.zenvoka.example/tav/application/2
 def tool(*arguments, **options):
     """Runs the practice SDK's tool."""
     return subprocess.run(["java", "-jar", KIT / "lib" / "KOB.jar", *arguments], text=True,
-                          check=False, capture_output=True, stdin=subprocess.DEVNULL, timeout=60,
+                          check=False, capture_output=True, stdin=subprocess.DEVNULL, timeout=120,
                           **options)
 
 

@@ -45,7 +45,7 @@ class ToolTest(FarmTest):
     def test_an_application_is_installed_launched_and_removed(self):
         for name, old, way in (("new", False, "streamed"), ("old", True, "pushed")):
             with self.subTest(name):
-                device = self.farm.add(name, **({"old": True} if old else {}))
+                device = self.farm.add(name, old=old)
                 self.assert_silent_success(self.install(device.serial))
                 self.assert_received(device, way)
                 self.assert_silent_success(self.launch(device.serial))
@@ -55,9 +55,9 @@ class ToolTest(FarmTest):
                 self.assertEqual(device.installed(), [])
 
     def test_code_14_when_the_device_refuses(self):
-        for name, options in (("new", {}), ("old", {"old": True})):
+        for name, old in (("new", False), ("old", True)):
             with self.subTest(name):
-                device = self.farm.add(name, refuse_install="INSTALL_FAILED_OLDER_SDK", **options)
+                device = self.farm.add(name, old=old, refuse_install="INSTALL_FAILED_OLDER_SDK")
                 said = self.install(device.serial)
                 self.assertIn("Failure [INSTALL_FAILED_OLDER_SDK]", said.stderr)
                 self.assertEqual(said.returncode, 14)
@@ -86,8 +86,7 @@ class ToolTest(FarmTest):
         for old in (False, True):
             for step, command in cases:
                 with self.subTest(step=step, old=old):
-                    device = self.farm.add(f"{step}-{old}", leave_at=step,
-                                           **({"old": True} if old else {}))
+                    device = self.farm.add(f"{step}-{old}", leave_at=step, old=old)
                     said = command(device.serial)
                     self.assertIn(f"the device {device.serial} went away", said.stderr)
                     self.assertEqual(said.returncode, 12)
