@@ -23,7 +23,7 @@ bool ProvideDescriptor(const HostCallContext& call) {
 std::int32_t RunDebugMovie(const HostCallContext& call, const HostValue* arguments) {
   KillDebugLaunchers();
   if (!PrepareDocumentContext(call, arguments[0], arguments[1], arguments[2])) return 1;
-  const CommandProfileText profile = HostText(call, arguments[3]);
+  const CommandProfileText profile = HostTextOrNull(call, arguments[3]);
   if (!ProvideDescriptor(call)) return 0;
   UpdateExtensionIds();
   if (!OpenDescriptor()) return 1;

@@ -37,6 +37,12 @@ std::optional<std::u16string> HostText(const HostCallContext& call, HostValue va
   return std::u16string(view.text);
 }
 
+std::optional<std::u16string> HostTextOrNull(const HostCallContext& call, HostValue value) {
+  const HostTextView view = ConvertToText(call, value);
+  if (view.text == nullptr) return {};
+  return std::u16string(view.text);
+}
+
 std::optional<std::u16string> PresentHostText(const HostCallContext& call, HostValue value) {
   if (value == kHostZero) return {};
   return HostText(call, value);

@@ -22,6 +22,9 @@ HostResult EvaluateHostScript(const HostCallContext& call, const std::u16string&
 /// The value as text, whatever it holds; nothing when the host gives none.
 std::optional<std::u16string> HostText(const HostCallContext& call, HostValue value);
 
+/// The value as text, an empty one included; nothing only when the host gives no text at all.
+std::optional<std::u16string> HostTextOrNull(const HostCallContext& call, HostValue value);
+
 /// The text of a value that counts as present: it has text and is not the number 0.
 std::optional<std::u16string> PresentHostText(const HostCallContext& call, HostValue value);
 

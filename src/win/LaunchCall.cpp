@@ -65,6 +65,7 @@ HostLaunch BuildLaunchCall(const HostCallContext& call, const CommandProfileText
   if (mobile && !launch.controller.empty()) StartController(call, launch);
   const bool simulated = mobile && !launch.controller.empty();
   const bool extended = simulated || !extensionFolder.empty();
+  const std::u16string screenSize = extended || mobile ? BuildScreenSize(call) : u"";
   std::u16string unzipped;
   if (!extensionFolder.empty()) UnzippedExtensionFolder(unzipped);
 
@@ -74,8 +75,7 @@ HostLaunch BuildLaunchCall(const HostCallContext& call, const CommandProfileText
   launch.script = u"qu.getDocumentDOM().debugTAVMovie(\"" + root + program + next + root +
                   u"/runtimes/tav/win" + next + DocumentPaths.ActiveDescriptorPath.Text() + next +
                   (debug ? u"true" : u"false") + next + ProfileArgument(profile, extended) +
-                  u"\", \"\", \"\", \"" + (extended || mobile ? BuildScreenSize(call) : u"") +
-                  u"\",-1,\"\",\"" + unzipped + u"\",\"\",\"" +
+                  u"\", \"\", \"\", \"" + screenSize + u"\",-1,\"\",\"" + unzipped + u"\",\"\",\"" +
                   (simulated ? ToDecimal(SimulatorPort) : u"") + u"\");";
   return launch;
 }

@@ -85,7 +85,7 @@ std::int32_t TestOlderDocument(const HostCallContext& call, const HostValue* arg
 }
 
 std::int32_t TestThroughHost(const HostCallContext& call, const HostValue* arguments) {
-  const CommandProfileText profile = HostText(call, arguments[kProfileArgument]);
+  const CommandProfileText profile = HostTextOrNull(call, arguments[kProfileArgument]);
   if (const auto status = PrepareDescriptor(call)) return *status;
   const HostLaunch launch = BuildLaunchCall(call, profile, false);
   std::int32_t answer = 0;
@@ -107,7 +107,7 @@ std::int32_t ExportMovieForTest(const HostCallContext& call, const std::u16strin
 
 std::int32_t RunPlainLaunch(const HostCallContext& call, const HostValue* arguments) {
   std::u16string output;
-  const CommandProfileText profile = HostText(call, arguments[kProfileArgument]);
+  const CommandProfileText profile = HostTextOrNull(call, arguments[kProfileArgument]);
   if (const auto status = PrepareDescriptor(call)) return *status;
   if (RunProcess(PlainLaunchCommand(call, profile), false, output) != 0) TraceOutput(call, output);
   return 1;

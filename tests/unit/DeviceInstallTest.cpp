@@ -156,6 +156,26 @@ TEST_F(DeviceInstallTest, ARunOnADeviceWithoutANameTakesTheChosenOnes) {
   EXPECT_EQ(processes.CommandLines().back(), Install(u"A"));
 }
 
+TEST_F(DeviceInstallTest, ARunOnADeviceWithoutANameAndWithoutAChoiceHasNothingToDo) {
+  RunOn(u"");
+  SettingsSet(keys::kInstallDevices, u"");
+
+  EXPECT_TRUE(InstallPackage());
+
+  EXPECT_THAT(processes.CommandLines(),
+              ElementsAre(kAdb + u" start-server", kAdb + u" forward tcp:7936 tcp:7936"));
+  EXPECT_EQ(errors, u"");
+}
+
+TEST_F(DeviceInstallTest, AnIosPublishWithAnInstallOptionInstallsWhatTheAndroidDestinationNames) {
+  SettingsSet(keys::kIpaDestination, u"G.ipa");
+  SettingsSet(keys::kTavDestination, u"G.apk");
+
+  EXPECT_EQ(Publish(PublishTargetIpa), 1);
+
+  EXPECT_EQ(processes.CommandLines().back(), Install(u"A"));
+}
+
 TEST_F(DeviceInstallTest, ARunOnADeviceThatFailsHasItsBlock) {
   RunOn(u"X9");
   Play(Install(u"X9"), {"", 12});

@@ -114,6 +114,13 @@ TEST_F(HostScriptTest, ATextIsPresentWhenItHasText) {
   EXPECT_EQ(PresentHostText(call, host.Text(u"C:/m/")), u"C:/m/");
 }
 
+TEST_F(HostScriptTest, AnEmptyTextIsOneWhereOnlyNullCountsAsNone) {
+  EXPECT_EQ(HostTextOrNull(call, host.Text(u"")), u"");
+  EXPECT_EQ(HostTextOrNull(call, host.Text(u"desktop")), u"desktop");
+  EXPECT_EQ(HostTextOrNull(call, 0), std::nullopt);
+  EXPECT_EQ(HostText(call, host.Text(u"")), std::nullopt);
+}
+
 TEST_F(HostScriptTest, ANullTextIsNotPresent) { EXPECT_EQ(PresentHostText(call, 0), std::nullopt); }
 
 TEST_F(HostScriptTest, ATextOfLengthZeroIsNotPresent) {
