@@ -6,16 +6,8 @@
 
 namespace qutav::host {
 
-/// How a program ended.
-struct ChildEnd {
-  enum class Kind { kExited, kKilled };
-  Kind kind = Kind::kExited;
-  /// The exit code or the signal.
-  int number = 0;
-};
-
-/// Runs a program to its end. What it writes to its standard output goes to our standard error;
-/// a signal that ends us is passed on to it. Throws std::system_error when it cannot be started.
-ChildEnd RunToEnd(const std::filesystem::path& program, const std::vector<std::string>& arguments);
+/// Starts a program that goes on by itself. It has nothing to read, and what it writes goes to our
+/// standard error. Throws std::system_error when it cannot be started.
+void StartProgram(const std::filesystem::path& program, const std::vector<std::string>& arguments);
 
 }  // namespace qutav::host

@@ -2,8 +2,10 @@
 
 #include <filesystem>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace qutav::host {
 
@@ -17,22 +19,44 @@ struct CommonOptions {
   bool verbose = false;
 };
 
-struct PublishOptions {
+/// What every command takes that calls one of the library's functions.
+struct CallOptions {
   CommonOptions common;
   /// This command, which is started once more to call the library. Empty: the running one.
   std::filesystem::path executable;
-  std::filesystem::path certificate;
-  std::string passwordVariable;
-  std::filesystem::path passwordFile;
-  std::filesystem::path provisioningProfile;
   std::filesystem::path script;
   std::filesystem::path transcript;
   bool exportsMovie = true;
 };
 
+struct PublishOptions : CallOptions {
+  std::filesystem::path certificate;
+  std::string passwordVariable;
+  std::filesystem::path passwordFile;
+  std::filesystem::path provisioningProfile;
+};
+
+/// A run in the debug launcher.
+struct LaunchOptions : CallOptions {
+  bool debugs = false;
+  /// The profile that the movie runs under; none for the desktop.
+  std::optional<std::string> profile;
+};
+
+struct DevicesOptions : CallOptions {};
+
+/// Runs on devices, one after the other.
+struct DeviceRunOptions : PublishOptions {
+  bool debugs = false;
+  /// Serials; empty for the first device that is connected.
+  std::vector<std::string> devices;
+};
+
 struct EvaluateOptions {
   CommonOptions common;
   std::string script;
+  /// The device that scripts find selected; empty for the first one that is connected.
+  std::string device;
   bool quiet = false;
 };
 
@@ -41,7 +65,8 @@ struct ExitRequest {
   int exitCode = 0;
 };
 
-using CommandRequest = std::variant<PublishOptions, EvaluateOptions, ExitRequest>;
+using CommandRequest = std::variant<PublishOptions, LaunchOptions, DevicesOptions, DeviceRunOptions,
+                                    EvaluateOptions, ExitRequest>;
 
 /// Reads the command line and makes its paths absolute; help goes to `out`, a complaint to
 /// `error`.

@@ -9,6 +9,7 @@ void ConnectedDevices::Update(const std::u16string& platform, const std::u16stri
 }
 
 std::optional<std::u16string> ConnectedDevices::Selected(const std::u16string& platform) const {
+  if (!chosen_.empty()) return chosen_;
   const auto found = serials_.find(platform);
   if (found == serials_.end()) return std::nullopt;
   const std::size_t end = found->second.find(u':');

@@ -12,11 +12,15 @@ class ConnectedDevices {
   /// Takes a list whose every serial ends in a colon.
   void Update(const std::u16string& platform, const std::u16string& serials);
 
-  /// The first connected device of the platform: a command has no list to choose from.
+  /// The user's choice among the devices of all platforms, by its serial.
+  void Choose(const std::u16string& serial) { chosen_ = serial; }
+
+  /// The chosen device, connected or not; without a choice the first connected one of the platform.
   std::optional<std::u16string> Selected(const std::u16string& platform) const;
 
  private:
   std::map<std::u16string, std::u16string> serials_;
+  std::u16string chosen_;
 };
 
 }  // namespace qutav::host

@@ -6,6 +6,8 @@
 #include <system_error>
 #include <vector>
 
+#include "host/ChildProcess.h"
+#include "host/DebugLauncher.h"
 #include "host/FileUri.h"
 #include "host/LibraryPaths.h"
 #include "host/MovieFile.h"
@@ -21,8 +23,8 @@ constexpr double kExported = 1;
 constexpr double kExportedWithoutScript = 2;
 constexpr double kExportFailed = 0;
 
-// The answer that leaves the launch to the library: this host has no launcher of its own.
-constexpr double kLaunchIsTheLibrarys = 2;
+constexpr double kLaunched = 0;
+constexpr double kLaunchFailed = 1;
 
 std::u16string TextAt(const Arguments& arguments, std::size_t index) {
   return TextOf(arguments[index]).value_or(u"");
@@ -78,7 +80,21 @@ ScriptValue ExportForPublish(HostState& state, const Arguments& arguments) {
 
 ScriptValue SelectedDevice(const HostState& state, const Arguments& arguments) {
   const auto serial = state.devices.Selected(TextAt(arguments, 0));
-  return serial ? ScriptValue(*serial) : ScriptValue(0.0);
+  if (!serial) return 0.0;
+  state.console.Message("Selected device: " + ToUtf8(*serial));
+  return *serial;
+}
+
+ScriptValue Launch(HostState& state, const Arguments& arguments) {
+  const ProgramCall launcher = LauncherCall(arguments);
+  try {
+    StartProgram(launcher.program, launcher.arguments);
+    return kLaunched;
+  } catch (const std::system_error& error) {
+    state.console.Message("The launcher cannot be started: " + launcher.program.string() + ": " +
+                          error.code().message());
+    return kLaunchFailed;
+  }
 }
 
 std::vector<ScriptProperty> Properties(HostState& state) {
@@ -124,8 +140,7 @@ ScriptObject MakeDocumentObject(HostState& state) {
       Method("getDebugForQmv", 0, state,
              [](HostState& s, const Arguments&) { return ScriptValue(s.document.DebugFlag()); }),
       Method("setDebugForQmv", 2, state, SetDebug),
-      Method("debugTAVMovie", 13, state,
-             [](HostState&, const Arguments&) { return ScriptValue(kLaunchIsTheLibrarys); }),
+      Method("debugTAVMovie", 13, state, Launch),
       Method("getSelectedDevice", 1, state,
              [](HostState& s, const Arguments& a) { return SelectedDevice(s, a); }),
       Method("updateConnectedDevices", 2, state, UpdateDevices),

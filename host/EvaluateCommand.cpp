@@ -10,6 +10,7 @@ int RunEvaluate(const EvaluateOptions& options, Console& console) {
   console.SetVerbose(options.common.verbose);
   Document document = Document::Load(options.common.document);
   HostState state = MakeHostState(options.common, document, console);
+  state.devices.Choose(FromUtf8(options.device));
   EnterMovieFolder(document);
   HostSession session(state);
   EnterLibrary(session, options.common);

@@ -13,9 +13,16 @@ constexpr const char* kPasswordVariable = "QUTAV_CERTIFICATE_PASSWORD";
 
 }  // namespace
 
-FrontEndSetup::FrontEndSetup(const PublishOptions& options, bool forIos) {
-  SetUpTranscript(options);
-  SetUpAnswers(options, forIos);
+FrontEndSetup::FrontEndSetup(const CallOptions& options) {
+  transcript_ = options.transcript;
+  if (transcript_.empty()) transcript_ = ownTranscript_.emplace("").Path();
+  Set(kTranscriptVariable, transcript_.string());
+  if (!options.script.empty()) Set(kScriptVariable, options.script.string());
+}
+
+FrontEndSetup::FrontEndSetup(const PublishOptions& options, bool forIos, SheetUse use)
+    : FrontEndSetup(options) {
+  if (!options.certificate.empty()) SetUpSigning(options, forIos, use);
 }
 
 FrontEndSetup::~FrontEndSetup() {
@@ -27,18 +34,10 @@ void FrontEndSetup::Set(const std::string& name, const std::string& value) {
   variables_.push_back(name);
 }
 
-void FrontEndSetup::SetUpTranscript(const PublishOptions& options) {
-  transcript_ = options.transcript;
-  if (transcript_.empty()) transcript_ = ownTranscript_.emplace("").Path();
-  Set(kTranscriptVariable, transcript_.string());
-}
-
-void FrontEndSetup::SetUpAnswers(const PublishOptions& options, bool forIos) {
-  if (!options.script.empty()) Set(kScriptVariable, options.script.string());
-  if (options.certificate.empty()) return;
+void FrontEndSetup::SetUpSigning(const PublishOptions& options, bool forIos, SheetUse use) {
   const SigningMaterial material = {options.certificate, PasswordOf(options),
                                     options.provisioningProfile};
-  ownScript_.emplace(SigningAnswers(material, forIos).dump(2) + "\n");
+  ownScript_.emplace(SigningAnswers(material, forIos, use).dump(2) + "\n");
   Set(kScriptVariable, ownScript_->Path().string());
 }
 

@@ -15,9 +15,11 @@ namespace qutav::host {
 /// made before the library is entered and taken back, with all temporary files, at the end.
 class FrontEndSetup {
  public:
+  explicit FrontEndSetup(const CallOptions& options);
+
   /// Asks for the password on the terminal when a certificate comes without a place for it;
   /// throws Refusal when there is no answer.
-  FrontEndSetup(const PublishOptions& options, bool forIos);
+  FrontEndSetup(const PublishOptions& options, bool forIos, SheetUse use);
   ~FrontEndSetup();
   FrontEndSetup(const FrontEndSetup&) = delete;
   FrontEndSetup& operator=(const FrontEndSetup&) = delete;
@@ -26,8 +28,7 @@ class FrontEndSetup {
 
  private:
   void Set(const std::string& name, const std::string& value);
-  void SetUpTranscript(const PublishOptions& options);
-  void SetUpAnswers(const PublishOptions& options, bool forIos);
+  void SetUpSigning(const PublishOptions& options, bool forIos, SheetUse use);
   PasswordReference PasswordOf(const PublishOptions& options);
 
   std::optional<TemporaryFile> ownTranscript_;

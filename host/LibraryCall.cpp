@@ -1,5 +1,8 @@
 #include "host/LibraryCall.h"
 
+#include <nlohmann/json.hpp>
+#include <utility>
+
 #include "host/ExitCodes.h"
 #include "host/FileUri.h"
 #include "host/NativePath.h"
@@ -12,22 +15,70 @@ std::string UriOf(const std::filesystem::path& file) {
   return ToUtf8(FileUriOf(ToNativeForm(file)));
 }
 
-// An encoded URI and a checked level hold no quotes.
-std::string PublishScript(const Document& document, const std::string& runtimeLevel) {
-  return "Publish(\"" + UriOf(document.Path()) + "\", \"" + UriOf(document.MoviePath()) + "\", \"" +
-         runtimeLevel + "\");";
+// The text as the script language writes it.
+std::string Quoted(const std::string& text) { return nlohmann::json(text).dump(); }
+
+std::string DocumentUri(const Document& document) { return Quoted(UriOf(document.Path())); }
+
+std::string MovieUri(const Document& document) { return Quoted(UriOf(document.MoviePath())); }
+
+std::string Call(const std::string& function, const std::vector<std::string>& arguments) {
+  std::string call = function + "(";
+  for (const std::string& argument : arguments) {
+    if (!call.ends_with('(')) call += ", ";
+    call += argument;
+  }
+  return call + ");";
+}
+
+// The form that all functions but the launches have.
+std::string CallForDocument(const std::string& function, const CommonOptions& options,
+                            const Document& document) {
+  return Call(function, {DocumentUri(document), MovieUri(document), Quoted(options.runtimeLevel)});
 }
 
 }  // namespace
 
-std::vector<std::string> PublishCallArguments(const CommonOptions& options,
-                                              const Document& document) {
-  std::vector<std::string> arguments = {"evaluate",
-                                        document.Path().string(),
-                                        PublishScript(document, options.runtimeLevel),
+std::string PublishScript(const CommonOptions& options, const Document& document) {
+  return CallForDocument("Publish", options, document);
+}
+
+std::string LaunchScript(const LaunchOptions& options, const Document& document) {
+  std::string first = MovieUri(document);
+  std::string second = DocumentUri(document);
+  if (options.debugs) std::swap(first, second);
+  const std::string profile = options.profile ? Quoted(*options.profile) : "undefined";
+  return Call(options.debugs ? "DebugMovie" : "TestMovie",
+              {first, second, Quoted(options.common.runtimeLevel), profile});
+}
+
+// Listens to what the library reports to the host.
+std::string DeviceListScript(const CommonOptions& options, const Document& document) {
+  return "var serials = ''; "
+         "qu.getDocumentDOM().updateConnectedDevices = function (list) { serials = list; }; " +
+         CallForDocument("GetConnectedDevices", options, document) +
+         " if (serials === '') throw 'No device is connected.';"
+         " serials.split(':').slice(0, -1).join('\\n');";
+}
+
+std::string DeviceRunScript(const DeviceRunOptions& options, const Document& document) {
+  const CommonOptions& common = options.common;
+  std::string script;
+  if (options.devices.empty()) {
+    script += CallForDocument("GetConnectedDevices", common, document) + " ";
+  }
+  if (!options.certificate.empty()) {
+    script += CallForDocument("OpenSettingDialog", common, document) + " ";
+  }
+  return script +
+         CallForDocument(options.debugs ? "DebugOnDevice" : "TestOnDevice", common, document);
+}
+
+std::vector<std::string> CallArguments(const CommonOptions& options, const Document& document,
+                                       const std::string& script) {
+  std::vector<std::string> arguments = {"evaluate", document.Path().string(), script,
                                         "--version=" + options.runtimeLevel,
-                                        "--language=" + options.languageCode,
-                                        "--quiet"};
+                                        "--language=" + options.languageCode};
   if (!options.library.empty()) arguments.push_back("--library=" + options.library.string());
   if (options.verbose) arguments.push_back("--verbose");
   return arguments;

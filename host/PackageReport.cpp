@@ -13,13 +13,37 @@ std::string OneDecimal(double number) {
   return buffer.data();
 }
 
+std::string WithSize(const std::filesystem::path& package) {
+  std::error_code gone;
+  const std::uintmax_t size = std::filesystem::file_size(package, gone);
+  return package.string() + ", " + SizeText(gone ? 0 : size);
+}
+
+std::string Seconds(std::chrono::duration<double> duration) {
+  return OneDecimal(duration.count()) + " s";
+}
+
+std::string OnDevice(const std::string& device) {
+  return "on " + (device.empty() ? "the first device" : device);
+}
+
 }  // namespace
 
 std::string MadeText(const std::filesystem::path& package, std::chrono::duration<double> duration) {
-  std::error_code gone;
-  const std::uintmax_t size = std::filesystem::file_size(package, gone);
-  return "Made " + package.string() + ", " + SizeText(gone ? 0 : size) + ", " +
-         OneDecimal(duration.count()) + " s";
+  return "Made " + WithSize(package) + ", " + Seconds(duration);
+}
+
+std::string DeviceHeading(const std::string& device, std::size_t number, std::size_t count) {
+  return "Device " + device + " (" + std::to_string(number) + " of " + std::to_string(count) + ")";
+}
+
+std::string StartedText(const std::filesystem::path& package, const std::string& device,
+                        std::chrono::duration<double> duration) {
+  return "Started " + WithSize(package) + ", " + OnDevice(device) + ", " + Seconds(duration);
+}
+
+std::string NotStartedText(const std::string& device) {
+  return "The package was not started " + OnDevice(device) + ".";
 }
 
 std::string NothingMadeText(const PublishRecord& record) {

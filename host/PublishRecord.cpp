@@ -18,10 +18,12 @@ void PublishRecord::Take(const nlohmann::json& event) {
   if (Has(event, "event", "dialog") && ofProgress) {
     packagingStarted_ = true;
     packagingCancelled_ = false;
+    warned_ = false;
   }
   if (Has(event, "event", "closed") && ofProgress) {
     packagingCancelled_ = Has(event, "answer", "Cancel");
   }
+  if (Has(event, "event", "message") && !Has(event, "icon", "information")) warned_ = true;
   if (Has(event, "event", "sheet")) sheetOpened_ = true;
   if (Has(event, "event", "pressed") && Has(event, "button", "Publish")) publishPressed_ = true;
 }

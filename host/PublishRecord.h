@@ -15,6 +15,12 @@ class PublishRecord {
   /// The packaging tool was started and not stopped by the user in its last attempt.
   bool PackagingEnded() const { return packagingStarted_ && !packagingCancelled_; }
 
+  /// The user stopped the last attempt.
+  bool PackagingCancelled() const { return packagingCancelled_; }
+
+  /// Something but plain information was shown since the last attempt began.
+  bool WarnedAfterPackaging() const { return packagingStarted_ && warned_; }
+
   /// The settings sheet opened, which means that signing material was missing, and nobody
   /// pressed its Publish button.
   bool SheetWasLeft() const { return sheetOpened_ && !publishPressed_; }
@@ -28,6 +34,7 @@ class PublishRecord {
   bool empty_ = true;
   bool packagingStarted_ = false;
   bool packagingCancelled_ = false;
+  bool warned_ = false;
   bool sheetOpened_ = false;
   bool publishPressed_ = false;
 };

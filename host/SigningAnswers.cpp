@@ -10,10 +10,13 @@ using Json = nlohmann::ordered_json;
 struct SigningKeys {
   const char* certificate;
   const char* password;
+  const char* remember;
 };
 
-constexpr SigningKeys kAndroidKeys = {"com.tav.moresh.certpath", "com.tav.moresh.certpwd"};
-constexpr SigningKeys kIosKeys = {"com.tav.moresh.ipacertpath", "com.tav.moresh.ipacertpwd"};
+constexpr SigningKeys kAndroidKeys = {"com.tav.moresh.certpath", "com.tav.moresh.certpwd",
+                                      "com.tav.moresh.rempwd"};
+constexpr SigningKeys kIosKeys = {"com.tav.moresh.ipacertpath", "com.tav.moresh.ipacertpwd",
+                                  "com.tav.moresh.iparempwd"};
 constexpr const char* kProvisioningKey = "com.tav.moresh.ipaprovision";
 
 Json ReferenceTo(const PasswordReference& password) {
@@ -23,14 +26,20 @@ Json ReferenceTo(const PasswordReference& password) {
 
 }  // namespace
 
-Json SigningAnswers(const SigningMaterial& material, bool forIos) {
+Json SigningAnswers(const SigningMaterial& material, bool forIos, SheetUse use) {
   const SigningKeys& keys = forIos ? kIosKeys : kAndroidKeys;
   Json settings = {{keys.certificate, ToSettingsForm(material.certificate)},
                    {keys.password, ReferenceTo(material.password)}};
   if (forIos && !material.provisioningProfile.empty()) {
     settings[kProvisioningKey] = ToSettingsForm(material.provisioningProfile);
   }
-  Json sheet = {{"to", "sheet"}, {"settings", settings}, {"press", {"Publish", "Cancel"}}};
+  Json press = {"Publish", "Cancel"};
+  if (use == SheetUse::kRemember) {
+    // Remembered within the process alone; leaving by OK would store it with the document's rest.
+    settings[keys.remember] = "true";
+    press = Json::array({"Cancel"});
+  }
+  Json sheet = {{"to", "sheet"}, {"settings", settings}, {"press", press}};
   return Json{{"answers", Json::array({sheet})}};
 }
 

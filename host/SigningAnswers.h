@@ -21,8 +21,13 @@ struct SigningMaterial {
   std::filesystem::path provisioningProfile;
 };
 
-/// A front end script that fills the settings sheet, publishes and leaves it. All paths are
-/// absolute.
-nlohmann::ordered_json SigningAnswers(const SigningMaterial& material, bool forIos);
+/// What happens on the settings sheet when it has got the signing material.
+enum class SheetUse {
+  kPublish,   ///< the package is made from within the sheet
+  kRemember,  ///< the sheet is left, and the commands that follow sign with it
+};
+
+/// A front end script that fills the settings sheet, uses and leaves it. All paths are absolute.
+nlohmann::ordered_json SigningAnswers(const SigningMaterial& material, bool forIos, SheetUse use);
 
 }  // namespace qutav::host

@@ -4,8 +4,11 @@
 
 #include "host/CommandLine.h"
 #include "host/Console.h"
+#include "host/DeviceRunCommand.h"
+#include "host/DevicesCommand.h"
 #include "host/EvaluateCommand.h"
 #include "host/ExitCodes.h"
+#include "host/LaunchCommand.h"
 #include "host/ProcessState.h"
 #include "host/PublishCommand.h"
 #include "host/Refusal.h"
@@ -17,6 +20,15 @@ namespace {
 int Run(const CommandRequest& request, Console& console) {
   if (const auto* publish = std::get_if<PublishOptions>(&request)) {
     return RunPublish(*publish, console);
+  }
+  if (const auto* launch = std::get_if<LaunchOptions>(&request)) {
+    return RunLaunch(*launch, console);
+  }
+  if (const auto* devices = std::get_if<DevicesOptions>(&request)) {
+    return RunDevices(*devices, console);
+  }
+  if (const auto* deviceRun = std::get_if<DeviceRunOptions>(&request)) {
+    return RunOnDevices(*deviceRun, console);
   }
   if (const auto* evaluate = std::get_if<EvaluateOptions>(&request)) {
     return RunEvaluate(*evaluate, console);

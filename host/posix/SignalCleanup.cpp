@@ -15,10 +15,8 @@ namespace {
 // two temporary files at most; one beyond the slots would only miss the removal at a signal.
 constexpr std::size_t kSlots = 8;
 std::array<std::atomic<char*>, kSlots> g_files;
-std::atomic<pid_t> g_child = 0;
 
 void RemoveFilesAndEnd(int number) {
-  if (const pid_t child = g_child.load(); child != 0) kill(child, number);
   for (const std::atomic<char*>& slot : g_files) {
     const char* file = slot.load();
     if (file != nullptr) unlink(file);
@@ -60,7 +58,5 @@ void RemoveNow(const std::filesystem::path& file) {
     return;
   }
 }
-
-void PassSignalsTo(pid_t child) { g_child.store(child); }
 
 }  // namespace qutav::host

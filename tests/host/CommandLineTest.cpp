@@ -70,6 +70,44 @@ TEST(CommandLineTest, EvaluateTakesAScript) {
   EXPECT_EQ(options.common.runtimeLevel, "26.0");
 }
 
+TEST(CommandLineTest, TestAndDebugTakeAProfile) {
+  const Parsed test = Parse({"test", "/g/G.json", "--version", "26.0", "--profile", "mobileDevice",
+                             "--script", "/s.json"});
+  EXPECT_EQ(std::get<LaunchOptions>(test.request).profile, "mobileDevice");
+  EXPECT_EQ(std::get<LaunchOptions>(test.request).script, "/s.json");
+  EXPECT_FALSE(std::get<LaunchOptions>(test.request).debugs);
+  const Parsed debug = Parse({"debug", "/g/G.json", "--version", "26.0", "--no-export"});
+  EXPECT_EQ(std::get<LaunchOptions>(debug.request).profile, std::nullopt);
+  EXPECT_FALSE(std::get<LaunchOptions>(debug.request).exportsMovie);
+  EXPECT_TRUE(std::get<LaunchOptions>(debug.request).debugs);
+}
+
+TEST(CommandLineTest, DevicesTakesADocumentAndALevel) {
+  const Parsed parsed = Parse({"devices", "/g/G.json", "--version", "26.0"});
+  EXPECT_EQ(std::get<DevicesOptions>(parsed.request).common.document, "/g/G.json");
+  EXPECT_EQ(std::get<DevicesOptions>(parsed.request).common.runtimeLevel, "26.0");
+}
+
+TEST(CommandLineTest, RunsOnDevicesTakeSeveralAndACertificate) {
+  const Parsed parsed =
+      Parse({"test-on-device", "--device", "B2", "/g/G.json", "--version", "26.0", "--device", "A1",
+             "--certificate", "/k/my.p12", "--password-env", "PW"});
+  const auto& options = std::get<DeviceRunOptions>(parsed.request);
+  EXPECT_EQ(options.devices, (std::vector<std::string>{"B2", "A1"}));
+  EXPECT_EQ(options.common.document, "/g/G.json");
+  EXPECT_EQ(options.certificate, "/k/my.p12");
+  EXPECT_FALSE(options.debugs);
+  const Parsed debug = Parse({"debug-on-device", "/g/G.json", "--version", "26.0"});
+  EXPECT_TRUE(std::get<DeviceRunOptions>(debug.request).debugs);
+}
+
+TEST(CommandLineTest, EveryCommandsHelpTellsItsExitCodes) {
+  for (const char* command :
+       {"publish", "test", "debug", "devices", "test-on-device", "debug-on-device", "evaluate"}) {
+    EXPECT_THAT(Parse({command, "--help"}).out, HasSubstr("Exit code: 0 ")) << command;
+  }
+}
+
 TEST(CommandLineTest, RefusesAVersionThatIsNone) {
   const Parsed parsed = Parse({"publish", "/g/Game.qud.json", "--version", "TAV26"});
   EXPECT_EQ(ExitCodeOf(parsed), kRefused);

@@ -20,5 +20,13 @@ TEST(ConnectedDevicesTest, NoDeviceIsSelectedFromAnEmptyList) {
   EXPECT_EQ(devices.Selected(u"android"), std::nullopt);
 }
 
+TEST(ConnectedDevicesTest, ChosenDeviceIsSelectedWhateverIsConnected) {
+  ConnectedDevices devices;
+  devices.Choose(u"R58M");
+  EXPECT_EQ(devices.Selected(u"android"), u"R58M");
+  devices.Update(u"android", u"emulator-5554:");
+  EXPECT_EQ(devices.Selected(u"android"), u"R58M");
+}
+
 }  // namespace
 }  // namespace qutav::host

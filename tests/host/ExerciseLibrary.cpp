@@ -114,14 +114,48 @@ std::int32_t Publish(void* context, void* object, std::uint32_t, std::uint64_t* 
   return 1;
 }
 
+// Lets the host launch what the document's data "exercise.launcher" names.
+std::int32_t TestMovie(void* context, void* object, std::uint32_t, std::uint64_t*, std::uint64_t*) {
+  EvaluateText(
+      context, object,
+      u"var dom = qu.getDocumentDOM(), path = dom.getDataFromDocument('exercise.launcher');"
+      u"if (path) dom.debugTAVMovie(path, '/rt', '/g.xml', 'false', '', '', '', '', -1, '',"
+      u"'', '', '');");
+  return 1;
+}
+
+std::int32_t GetConnectedDevices(void* context, void* object, std::uint32_t, std::uint64_t*,
+                                 std::uint64_t*) {
+  EvaluateText(context, object,
+               u"var dom = qu.getDocumentDOM(), list = dom.getDataFromDocument('exercise.devices');"
+               u"dom.updateConnectedDevices(list || '', 'android');");
+  return 1;
+}
+
+std::int32_t TestOnDevice(void* context, void* object, std::uint32_t, std::uint64_t*,
+                          std::uint64_t*) {
+  PlayDeviceRun(context, object);
+  return 1;
+}
+
+std::int32_t OpenSettingDialog(void*, void*, std::uint32_t, std::uint64_t*, std::uint64_t*) {
+  PlaySettings();
+  return 1;
+}
+
 struct Definition {
   const char16_t* name;
   ScriptFunction function;
   std::uint32_t argumentCount;
 };
 
-constexpr std::array<Definition, 8> kDefinitions = {{
+constexpr std::array<Definition, 13> kDefinitions = {{
     {u"Publish", Publish, 3},
+    {u"TestMovie", TestMovie, 4},
+    {u"DebugMovie", TestMovie, 4},
+    {u"TestOnDevice", TestOnDevice, 3},
+    {u"OpenSettingDialog", OpenSettingDialog, 3},
+    {u"GetConnectedDevices", GetConnectedDevices, 3},
     {u"echo", Echo, 1},
     {u"ask", Ask, 1},
     {u"holdText", HoldText, 1},

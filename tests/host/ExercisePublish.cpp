@@ -77,6 +77,18 @@ void EndHost() {
 
 void Crash() { std::abort(); }
 
+std::u16string Data(void* context, void* object, const std::u16string& key) {
+  return EvaluateText(context, object,
+                      u"qu.getDocumentDOM().getDataFromDocument(\"" + key + u"\");");
+}
+
+void FailToInstall() {
+  Write("Game.apk", kArchive);
+  TellProgress("null");
+  Tell(
+      R"({"event":"message","title":"Zenvoka Kestrow","icon":"warning","text":"Device Serial NumberX : gone","buttons":["OK"],"answer":"OK"})");
+}
+
 fs::path PosixPath(std::u16string native) {
   std::replace(native.begin(), native.end(), u'\\', u'/');
   return fs::path(native);
@@ -90,11 +102,26 @@ void PlayPublish(void* context, void* object, const char16_t* movieUri) {
       {u"sheet", Sheet}, {u"end", EndHost}, {u"crash", Crash}};
   const fs::path movie = PosixPath(NativePath(context, movieUri));
   Write("movie-found.txt", fs::exists(movie) ? "yes" : "no");
-  const auto play = plays.find(EvaluateText(
-      context, object, u"qu.getDocumentDOM().getDataFromDocument(\"exercise.play\");"));
+  const auto play = plays.find(Data(context, object, u"exercise.play"));
   if (play != plays.end()) play->second();
   EvaluateText(context, object,
                u"qu.getDocumentDOM().addDataToDocument(\"exercise.ran\", \"string\", \"yes\");");
+}
+
+void PlayDeviceRun(void* context, void* object) {
+  const std::u16string serial =
+      EvaluateText(context, object, u"qu.getDocumentDOM().getSelectedDevice(\"android\");");
+  std::ofstream("devices.txt", std::ios::app) << fs::path(serial).string() << "\n";
+  if (serial == Data(context, object, u"exercise.fails")) return FailToInstall();
+  if (serial == Data(context, object, u"exercise.cancels")) return Cancel();
+  Make();
+}
+
+void PlaySettings() {
+  const char* script = std::getenv("QUTAV_SCRIPT");
+  Tell(R"({"event":"sheet","title":"TAV for Android Settings","page":0})");
+  if (script == nullptr) return;
+  fs::copy_file(script, "seen-script.json", fs::copy_options::overwrite_existing);
 }
 
 }  // namespace qutav::exercise

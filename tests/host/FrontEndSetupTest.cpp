@@ -21,7 +21,7 @@ TEST(FrontEndSetupTest, ScriptForACertificateIsPrivateAndGoes) {
   options.passwordVariable = "MY_PASSWORD";
   fs::path script;
   {
-    const FrontEndSetup setup(options, false);
+    const FrontEndSetup setup(options, false, SheetUse::kPublish);
     script = Variable("QUTAV_SCRIPT");
     EXPECT_EQ(fs::status(script).permissions(), fs::perms::owner_read | fs::perms::owner_write);
   }
@@ -32,7 +32,7 @@ TEST(FrontEndSetupTest, ScriptForACertificateIsPrivateAndGoes) {
 TEST(FrontEndSetupTest, TranscriptOfOurOwnGoesAtTheEnd) {
   fs::path transcript;
   {
-    const FrontEndSetup setup(PublishOptions(), false);
+    const FrontEndSetup setup{CallOptions()};
     transcript = setup.Transcript();
     EXPECT_EQ(Variable("QUTAV_TRANSCRIPT"), transcript);
     EXPECT_TRUE(fs::exists(transcript));
@@ -46,7 +46,7 @@ TEST(FrontEndSetupTest, TranscriptOfTheUsersStays) {
   options.transcript = folder.Write("t.jsonl", "earlier\n");
   options.script = folder.Write("answers.json", "{}");
   {
-    const FrontEndSetup setup(options, false);
+    const FrontEndSetup setup(options, false, SheetUse::kPublish);
     EXPECT_EQ(Variable("QUTAV_TRANSCRIPT"), options.transcript);
     EXPECT_EQ(Variable("QUTAV_SCRIPT"), options.script);
   }

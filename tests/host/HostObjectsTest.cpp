@@ -7,11 +7,13 @@
 #include "host/FileUri.h"
 #include "host/HostObjects.h"
 #include "host/NativePath.h"
+#include "host/ProcessFamily.h"
 #include "host/TextEncoding.h"
 
 namespace qutav::host {
 namespace {
 
+namespace fs = std::filesystem;
 using ::testing::HasSubstr;
 
 class HostObjectsTest : public ::testing::Test {
@@ -116,10 +118,27 @@ TEST_F(HostObjectsTest, FirstReportedDeviceIsSelected) {
   EXPECT_EQ(Text("qu.getDocumentDOM().getSelectedDevice('android')"), "emulator-5554");
 }
 
-TEST_F(HostObjectsTest, LaunchIsLeftToTheLibrary) {
-  EXPECT_EQ(Text("qu.getDocumentDOM().debugTAVMovie('', '', '', 'false', '', '', '', '', -1, '', "
-                 "'', '', '')"),
-            "2");
+TEST_F(HostObjectsTest, LaunchStartsTheLauncherWithWhatItIsGiven) {
+  const fs::path launcher = folder_.Write("wep", "#!/bin/sh\necho \"$*\" >\"$0.seen\"\n");
+  fs::permissions(launcher, fs::perms::owner_all);
+  ProcessFamily family;
+
+  EXPECT_EQ(Text("qu.getDocumentDOM().debugTAVMovie('" + launcher.string() +
+                 "', '/kit/runtimes/tav/win', '/g/Game-app.xml', 'true', 'mobileDevice', '', '', "
+                 "'480x800:480x800', -1, '', '/ext', '', '7836')"),
+            "0");
+
+  ASSERT_TRUE(family.WaitForProgram("wep"));
+  EXPECT_EQ(folder_.Read("wep.seen"),
+            "/g/Game-app.xml -runtime /kit/runtimes/tav/win -debug -profile mobileDevice -extdir "
+            "/ext -screensize 480x800:480x800 -Xsimulation 7836\n");
+}
+
+TEST_F(HostObjectsTest, LauncherThatCannotBeStartedIsToldAndRefused) {
+  EXPECT_EQ(Text("qu.getDocumentDOM().debugTAVMovie('/gone/wep', '', '/g', 'false', '', '', '', "
+                 "'', -1, '', '', '', '')"),
+            "1");
+  EXPECT_EQ(error_.str(), "The launcher cannot be started: /gone/wep: No such file or directory\n");
 }
 
 TEST_F(HostObjectsTest, TracesAndDebugSessionsReachTheUser) {

@@ -1,33 +1,91 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <regex>
+
 #include "TestFolder.h"
 #include "host/LibraryCall.h"
 
 namespace qutav::host {
 namespace {
 
-using ::testing::Contains;
-using ::testing::Not;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::MatchesRegex;
 using ::testing::StartsWith;
 
-TEST(LibraryCallTest, ArgumentsCarryEncodedUrisAndTheOptions) {
-  const TestFolder folder;
-  const Document document = Document::Load(folder.Write("100% Ü.qud.json", DocumentText("")));
+// A folder with the document "100% Ü.qud.json" in it, and how its URIs end in scripts.
+class LibraryCallTest : public ::testing::Test {
+ protected:
+  LibraryCallTest()
+      : document_(Document::Load(folder_.Write("100% Ü.qud.json", DocumentText("")))) {}
+
+  // The script with the URIs' folder left out.
+  std::string Short(const std::string& script) const {
+    return std::regex_replace(script, std::regex("file:///[^\"]*/"), "");
+  }
+
+  TestFolder folder_;
+  Document document_;
+};
+
+constexpr char kDocument[] = "\"100%25%20%C3%9C.qud.json\"";
+constexpr char kMovie[] = "\"100%25%20%C3%9C.qmv\"";
+
+TEST_F(LibraryCallTest, PublishNamesDocumentMovieAndLevel) {
+  CommonOptions options;
+  options.runtimeLevel = "26.0";
+  EXPECT_EQ(Short(PublishScript(options, document_)),
+            std::string("Publish(") + kDocument + ", " + kMovie + ", \"26.0\");");
+}
+
+TEST_F(LibraryCallTest, ATestNamesTheMovieFirstAndADebugRunTheDocument) {
+  LaunchOptions options;
+  options.common.runtimeLevel = "26.0";
+  options.profile = "mobileDevice";
+  EXPECT_EQ(
+      Short(LaunchScript(options, document_)),
+      std::string("TestMovie(") + kMovie + ", " + kDocument + ", \"26.0\", \"mobileDevice\");");
+  options.debugs = true;
+  EXPECT_EQ(Short(LaunchScript(options, document_)), std::string("DebugMovie(") + kDocument + ", " +
+                                                         kMovie + ", \"26.0\", \"mobileDevice\");");
+}
+
+TEST_F(LibraryCallTest, AProfileIsNoScriptAndNoneIsUndefined) {
+  LaunchOptions options;
+  options.profile = "\"); throw \"x";
+  EXPECT_THAT(LaunchScript(options, document_), EndsWith(R"(, "\"); throw \"x");)"));
+  options.profile.reset();
+  EXPECT_THAT(LaunchScript(options, document_), EndsWith(", undefined);"));
+}
+
+TEST_F(LibraryCallTest, ARunOnAChosenDeviceIsOneCall) {
+  DeviceRunOptions options;
+  options.devices = {"A"};
+  EXPECT_THAT(DeviceRunScript(options, document_), StartsWith("TestOnDevice(\"file:///"));
+  options.debugs = true;
+  EXPECT_THAT(DeviceRunScript(options, document_), StartsWith("DebugOnDevice(\"file:///"));
+}
+
+TEST_F(LibraryCallTest, ARunOnAnyDeviceListsThemAndACertificateOpensTheSettings) {
+  DeviceRunOptions options;
+  options.certificate = "/k/my.p12";
+  EXPECT_THAT(DeviceRunScript(options, document_),
+              MatchesRegex("GetConnectedDevices\\(.*\\); OpenSettingDialog\\(.*\\); "
+                           "TestOnDevice\\(.*\\);"));
+}
+
+TEST_F(LibraryCallTest, ArgumentsCarryTheScriptAndTheOptions) {
   CommonOptions options;
   options.runtimeLevel = "26.0";
   options.languageCode = "ja_JP";
   options.library = "/lib/a b.so";
-  const auto arguments = PublishCallArguments(options, document);
-  ASSERT_EQ(arguments.size(), 7U);
-  EXPECT_EQ(arguments[1], document.Path());
-  EXPECT_THAT(arguments[2], StartsWith("Publish(\"file:///"));
-  EXPECT_THAT(arguments[2], ::testing::EndsWith("/100%25%20%C3%9C.qmv\", \"26.0\");"));
-  EXPECT_THAT(arguments, Contains("--library=/lib/a b.so"));
-  EXPECT_THAT(arguments, Not(Contains("--verbose")));
+  EXPECT_THAT(CallArguments(options, document_, "1 + 1"),
+              ElementsAre("evaluate", document_.Path().string(), "1 + 1", "--version=26.0",
+                          "--language=ja_JP", "--library=/lib/a b.so"));
 }
 
-TEST(LibraryCallTest, OrdinaryEndsAreNotTold) {
+TEST_F(LibraryCallTest, OrdinaryEndsAreNotTold) {
   EXPECT_EQ(UnexpectedEndText({ChildEnd::Kind::kExited, 0}), "");
   EXPECT_EQ(UnexpectedEndText({ChildEnd::Kind::kExited, 1}), "");
   EXPECT_EQ(UnexpectedEndText({ChildEnd::Kind::kExited, 13}),

@@ -58,6 +58,14 @@ std::string ProgramOf(pid_t pid) {
 
 }  // namespace
 
+std::vector<pid_t> ChildrenOf(pid_t parent) {
+  std::vector<pid_t> children;
+  for (const auto& [pid, itsParent] : ParentsOfAll()) {
+    if (itsParent == parent) children.push_back(pid);
+  }
+  return children;
+}
+
 void KillProcessTree(pid_t root) {
   if (root <= 1) return;
   // Stopped first, and looked for again until there is none that could have started another

@@ -1,4 +1,4 @@
-#include "host/PublishChecks.h"
+#include "host/CallChecks.h"
 
 #include <cstddef>
 #include <cstdlib>
@@ -54,21 +54,51 @@ void CheckPassword(const PublishOptions& options, Problems& problems) {
   }
 }
 
+// The library's lists end each serial with a colon and would take this one for two.
+void CheckSerials(const std::vector<std::string>& serials, Problems& problems) {
+  for (const std::string& serial : serials) {
+    if (serial.empty() || serial.find(':') != serial.npos) {
+      problems.push_back("--device \"" + serial +
+                         "\": a serial is not empty and holds no colon; a device in the network "
+                         "cannot be used by its address");
+    }
+  }
+}
+
 }  // namespace
 
-Problems FindPublishProblems(const PublishOptions& options, const Document& document) {
+Problems FindCallProblems(const CallOptions& options, const Document& document) {
   Problems problems;
   CheckAddress(document.Path(), problems);
   CheckAddress(document.MoviePath(), problems);
   CheckReadable(LibraryFile(options.common), "library", problems);
+  CheckReadable(options.script, "script", problems);
+  return problems;
+}
+
+Problems FindPublishProblems(const PublishOptions& options, const Document& document) {
+  Problems problems = FindCallProblems(options, document);
   CheckReadable(options.certificate, "certificate", problems);
   CheckReadable(options.provisioningProfile, "provisioning profile", problems);
-  CheckReadable(options.script, "script", problems);
   CheckPassword(options, problems);
   if (!options.provisioningProfile.empty() && !IsForIos(document)) {
     problems.push_back("--provisioning-profile is for a document with the player target iPhone OS");
   }
   return problems;
+}
+
+Problems FindDeviceRunProblems(const DeviceRunOptions& options, const Document& document) {
+  Problems problems = FindPublishProblems(options, document);
+  CheckSerials(options.devices, problems);
+  if (IsForIos(document)) {
+    problems.push_back("a document with the player target iPhone OS cannot run on these devices");
+  }
+  return problems;
+}
+
+bool TellProblems(const Problems& problems, Console& console) {
+  for (const std::string& problem : problems) console.Message(problem);
+  return !problems.empty();
 }
 
 bool IsForIos(const Document& document) { return document.PlayerTarget() == "iPhone OS"; }

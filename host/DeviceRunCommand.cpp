@@ -1,0 +1,90 @@
+#include "host/DeviceRunCommand.h"
+
+#include <chrono>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/CallChecks.h"
+#include "host/ExitCodes.h"
+#include "host/FrontEndSetup.h"
+#include "host/LibraryCall.h"
+#include "host/LibraryRun.h"
+#include "host/PackageReport.h"
+#include "host/PackageSnapshot.h"
+
+namespace qutav::host {
+namespace {
+
+namespace fs = std::filesystem;
+using Duration = std::chrono::duration<double>;
+
+std::vector<std::string> CallOptionsFor(const std::string& device) {
+  std::vector<std::string> options = {"--quiet"};
+  if (!device.empty()) options.push_back("--device=" + device);
+  return options;
+}
+
+class DeviceRun {
+ public:
+  DeviceRun(const DeviceRunOptions& options, const Document& document, fs::path transcript,
+            Console& console)
+      : options_(options),
+        document_(document),
+        transcript_(std::move(transcript)),
+        console_(console) {}
+
+  int Run() {
+    // Without a name the host takes the first one that is connected.
+    std::vector<std::string> devices = options_.devices;
+    if (devices.empty()) devices.emplace_back();
+    int result = kDone;
+    for (std::size_t i = 0; i < devices.size() && !cancelled_; ++i) {
+      if (devices.size() > 1) console_.Message(DeviceHeading(devices[i], i + 1, devices.size()));
+      const int outcome = RunOn(devices[i]);
+      if (outcome == kRefused) return kRefused;
+      if (outcome != kDone) result = kNotDone;
+    }
+    return result;
+  }
+
+ private:
+  int RunOn(const std::string& device) {
+    const auto start = std::chrono::steady_clock::now();
+    const std::set<fs::path> folders = PackageFolders(document_);
+    const PackageSnapshot before = TakeSnapshot(folders);
+    LibraryRun library(options_, document_, transcript_, console_);
+    library.Run(DeviceRunScript(options_, document_), CallOptionsFor(device),
+                ChildOutput::kToStandardError);
+    const Duration duration = std::chrono::steady_clock::now() - start;
+    if (library.WasRefused()) return kRefused;
+    cancelled_ = library.Record().PackagingCancelled();
+    const std::vector<fs::path> packages = PackagesMade(before, TakeSnapshot(folders));
+    // The one failure after packaging is shown in a warning, and so is the tool's own.
+    if (packages.empty() || !library.Record().PackagingEnded() ||
+        library.Record().WarnedAfterPackaging()) {
+      console_.Message(NotStartedText(device));
+      return kNotDone;
+    }
+    console_.Result(StartedText(packages.front(), device, duration));
+    return kDone;
+  }
+
+  const DeviceRunOptions& options_;
+  const Document& document_;
+  fs::path transcript_;
+  Console& console_;
+  bool cancelled_ = false;
+};
+
+}  // namespace
+
+int RunOnDevices(const DeviceRunOptions& options, Console& console) {
+  const Document document = Document::Load(options.common.document);
+  if (TellProblems(FindDeviceRunProblems(options, document), console)) return kRefused;
+  const FrontEndSetup frontEnd(options, false, SheetUse::kRemember);
+  return DeviceRun(options, document, frontEnd.Transcript(), console).Run();
+}
+
+}  // namespace qutav::host
