@@ -6,11 +6,17 @@ import json
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
+import sys
 import tempfile
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "devices"))
+from adb_farm import Farm, wait_until  # pylint: disable=wrong-import-position
+
 BUILD = pathlib.Path(os.environ["QUTAV_BUILD"])
+SWIFT_CLOCK = os.environ["QUTAV_SWIFT_CLOCK"]
 SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "samples" / "Game"
 PASSWORD = "practice-only"
 
@@ -114,6 +120,30 @@ class PublishTest(unittest.TestCase):
         (self.game / f"{name}-app.xml").write_text(
             descriptor.replace("Game.qmv", f"{encoded}.qmv"), encoding="utf-8")
 
+    def skip_waits(self, *milliseconds):
+        """Fixed waits of these lengths pass at once."""
+        self.environment.update(LD_PRELOAD=SWIFT_CLOCK,
+                                QUTAV_SKIPPED_WAITS=" ".join(str(wait) for wait in milliseconds))
+
+    def command(self, name, *options, version="26.0"):
+        return [str(part) for part in (BUILD / "qutav", name, self.document, "--version", version,
+                                       "--transcript", self.transcript, *options)]
+
+    def start(self, *command):
+        """Starts a command that the test ends or waits for."""
+        process = subprocess.Popen(command, env=self.environment, text=True,
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE)
+        self.addCleanup(process.communicate)  # closes the pipes when the test has failed before
+        self.addCleanup(process.kill)
+        return process
+
+    def interrupt(self, process):
+        """Ends a command as Ctrl-C would."""
+        process.send_signal(signal.SIGINT)
+        process.communicate(timeout=60)
+        self.assertEqual(process.returncode, -signal.SIGINT)
+
     def publish(self, *options, version="26.0", certificate=None, timeout=120):
         command = [BUILD / "qutav", "publish", self.document, "--version", version,
                    "--transcript", self.transcript]
@@ -149,3 +179,33 @@ class PublishTest(unittest.TestCase):
         self.assertEqual(result.returncode, 1, result.stdout + result.stderr)
         self.assertEqual(self.messages(), list(messages))
         self.assertEqual(list(self.game.rglob("*.apk")), [])
+
+
+class DeviceTest(PublishTest):
+    """An adb server and devices of the test's own."""
+
+    def setUp(self):
+        super().setUp()
+        self.farm = Farm(self.folder)
+        self.farm.start()
+        self.environment.update(self.farm.variables)
+        self.skip_waits(5000)  # the server runs already
+        self.package = self.game / "Game.apk"
+
+    def tearDown(self):
+        self.farm.stop()
+        super().tearDown()
+
+    def assert_served(self, device):
+        """The device has received the very package, and started it."""
+        self.assert_started(device)
+        checksum = hashlib.sha256(self.package.read_bytes()).hexdigest()
+        self.assertEqual(device.events("install")[0]["sha256"], checksum)
+
+    def assert_started(self, device):
+        """The device has received a package, once, and started it."""
+        self.assertEqual([install["answer"] for install in device.events("install")], ["Success"])
+        self.assertEqual([launch["started"] for launch in device.events("launch")], [True])
+
+    def assert_untouched(self, device):
+        self.assertEqual(device.events(), [])
