@@ -44,7 +44,7 @@ int ComboBox::FindStringExact(const std::u16string& row) const {
 
 void ComboBox::SetCurSel(int index) {
   selection_ = index >= 0 && index < GetCount() ? index : -1;
-  text = selection_ < 0 ? std::u16string() : GetRow(selection_);
+  SetText(selection_ < 0 ? std::u16string() : GetRow(selection_));
 }
 
 void ComboBox::FitDropWidth() {

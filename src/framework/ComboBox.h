@@ -36,7 +36,13 @@ class ComboBox final : public Control {
   void SetCurSel(int index);
   int GetCurSel() const { return selection_; }
   /// Shows a text and leaves the choice as it is (`WM_SETTEXT`).
-  void SetText(std::u16string shown) { text = std::move(shown); }
+  void SetText(std::u16string shown) {
+    text = std::move(shown);
+    caretAtEnd_ = false;
+  }
+  /// Shows the end of a text that is too long for the field (`CB_SETEDITSEL`).
+  void MoveCaretToEnd() { caretAtEnd_ = true; }
+  bool IsCaretAtEnd() const { return caretAtEnd_; }
   int GetCount() const { return static_cast<int>(rows_.size()); }
   const std::u16string& GetRow(int index) const {
     return rows_.at(static_cast<std::size_t>(index));
@@ -54,6 +60,7 @@ class ComboBox final : public Control {
  private:
   std::vector<std::u16string> rows_;
   int selection_ = -1;
+  bool caretAtEnd_ = false;
   int droppedWidth_ = 0;
 };
 
