@@ -8,6 +8,7 @@
 #include "platform/FrontEnd.h"
 #include "platform/Images.h"
 #include "platform/Language.h"
+#include "platform/NetworkTables.h"
 #include "platform/Processes.h"
 #include "platform/Registry.h"
 #include "platform/Threads.h"
@@ -24,6 +25,7 @@ struct Services {
   Threads* threads = nullptr;
   Images* images = nullptr;
   FrontEnd* frontEnd = nullptr;
+  NetworkTables* networkTables = nullptr;
 };
 
 /// The services in force. The library fills the record when it is entered

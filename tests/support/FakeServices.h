@@ -159,6 +159,15 @@ class FakeThreads : public Threads {
   bool refuses = false;
 };
 
+/// The tables that a test has laid out.
+class FakeNetworkTables : public NetworkTables {
+ public:
+  NetworkTable<InterfaceAddress> Addresses() override { return addresses; }
+  NetworkTable<NetworkAdapter> Adapters() override { return adapters; }
+  NetworkTable<InterfaceAddress> addresses;
+  NetworkTable<NetworkAdapter> adapters;
+};
+
 /// Images by path, as a test puts them there; a file that is none has no image.
 class FakeImages : public Images {
  public:

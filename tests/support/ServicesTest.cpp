@@ -39,7 +39,7 @@ void ResetProcessWideState() {
 
 ServicesTest::ServicesTest() {
   TheServices() = {&files,    &processes, &clock,      &registry, &folders,
-                   &language, &threads,   &imageFiles, &frontEnd};
+                   &language, &threads,   &imageFiles, &frontEnd, &networkTables};
   ResetProcessWideState();
   language.SetThreadInterfaceLanguage(kEnglish);
   language.switches.clear();

@@ -23,6 +23,7 @@ class ServicesTest : public ::testing::Test {
   FakeThreads threads;
   FakeImages imageFiles;
   FakeFrontEnd frontEnd;
+  FakeNetworkTables networkTables;
   FakeHost host;
 };
 

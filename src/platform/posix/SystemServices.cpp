@@ -13,6 +13,7 @@ void InstallSystemServices() {
   services.registry = &SystemRegistry();
   services.folders = &SystemFolders();
   services.language = &SystemLanguage();
+  services.networkTables = &SystemNetworkTables();
   services.threads = &StandardThreads();
   services.images = &SystemImages();
 }

@@ -7,6 +7,7 @@ class Files;
 class Folders;
 class Images;
 class Language;
+class NetworkTables;
 class Processes;
 class Registry;
 
@@ -14,6 +15,7 @@ Files& SystemFiles();
 Folders& SystemFolders();
 Images& SystemImages();
 Language& SystemLanguage();
+NetworkTables& SystemNetworkTables();
 Processes& SystemProcesses();
 Registry& SystemRegistry();
 
