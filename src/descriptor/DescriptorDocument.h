@@ -69,6 +69,8 @@ class DescriptorDocument {
   int GetAttribute(const char* tag, const char* attribute, std::string& out) const;
   /// Whether the first element of the parent tag has a descendant of the child tag.
   bool HasChild(const char* parentTag, const char* childTag) const;
+  /// All elements of a tag, at any depth and in document order; none without a document.
+  std::vector<xercesc::DOMElement*> ElementsOfTag(const char* tag) const;
 
   // --- Writing fields --------------------------------------------------------------------------
 

@@ -70,6 +70,11 @@ bool DescriptorDocument::HasChild(const char* parentTag, const char* childTag) c
   return parent != nullptr && FirstOfTag(*parent, childTag) != nullptr;
 }
 
+std::vector<DOMElement*> DescriptorDocument::ElementsOfTag(const char* tag) const {
+  if (Document() == nullptr) return {};
+  return ElementsOf(*Document()->getElementsByTagName(XmlName(tag).c_str()));
+}
+
 int DescriptorDocument::SetText(const char* tag, const std::u16string& value) {
   if (const int missing = CheckRoot(); missing != 0) return missing;
   DOMNode* node = FirstOfTag(*Document(), tag);
