@@ -25,4 +25,20 @@ inline constexpr std::uint32_t kSheetOk = 9030;
 inline constexpr std::uint32_t kSheetCancel = 9031;
 inline constexpr std::uint32_t kSheetHelp = 9032;
 
+inline constexpr std::uint32_t kCertificateTitle = 9280;
+inline constexpr std::uint32_t kCertificatePublisher = 9281;
+inline constexpr std::uint32_t kCertificateUnit = 9282;
+inline constexpr std::uint32_t kCertificateOrganization = 9283;
+inline constexpr std::uint32_t kCertificateCountry = 9284;
+inline constexpr std::uint32_t kCertificatePassword = 9285;
+inline constexpr std::uint32_t kCertificateConfirmation = 9286;
+inline constexpr std::uint32_t kCertificateType = 9287;
+inline constexpr std::uint32_t kCertificateValidity = 9288;
+inline constexpr std::uint32_t kCertificateYears = 9289;
+inline constexpr std::uint32_t kCertificateSaveAs = 9290;
+inline constexpr std::uint32_t kCertificateBrowse = 9291;
+inline constexpr std::uint32_t kCertificateHelp = 9292;
+inline constexpr std::uint32_t kCertificateOk = 9293;
+inline constexpr std::uint32_t kCertificateCancel = 9294;
+
 }  // namespace qutav::texts

@@ -5,7 +5,12 @@
 
 namespace qutav::messages {
 
+inline constexpr std::uint32_t kPasswordsDiffer = 8006;
+inline constexpr std::uint32_t kOverwriteCertificate = 8008;
+inline constexpr std::uint32_t kAllFieldsRequired = 8009;
 inline constexpr std::uint32_t kMovieMissing = 8011;
+inline constexpr std::uint32_t kCreatingCertificateFailed = 8016;
+inline constexpr std::uint32_t kCertificateCreated = 8018;
 inline constexpr std::uint32_t kIpaCreated = 8107;
 inline constexpr std::uint32_t kExeCreated = 8108;
 inline constexpr std::uint32_t kApkCreated = 8109;
@@ -35,6 +40,7 @@ inline constexpr std::uint32_t kMissingFilesQuestion = 8072;
 inline constexpr std::uint32_t kMissingFilesHeading = 8073;
 inline constexpr std::uint32_t kMovieInvalid = 8082;
 inline constexpr std::uint32_t kMovieVersionTooHigh = 8083;
+inline constexpr std::uint32_t kErrorCreatingCertificate = 8084;
 inline constexpr std::uint32_t kPublishButton = 8086;
 inline constexpr std::uint32_t kAndroidSettingsTitle = 8087;
 inline constexpr std::uint32_t kIosFilesNotInstalled = 8088;
@@ -43,6 +49,7 @@ inline constexpr std::uint32_t kIosSettingsTitle = 8095;
 inline constexpr std::uint32_t kProvisioningProfileMissing = 8098;
 inline constexpr std::uint32_t kApplicationNameMissing = 8099;
 inline constexpr std::uint32_t kJavaMissing = 8100;
+inline constexpr std::uint32_t kSelectDestination = 8102;
 inline constexpr std::uint32_t kMovieFolderMissing = 8103;
 inline constexpr std::uint32_t kExportFailed = 8105;
 inline constexpr std::uint32_t kPackagedWithWarning = 8119;
@@ -54,6 +61,7 @@ inline constexpr std::uint32_t kInstallUnexpectedError = 8146;
 inline constexpr std::uint32_t kConnectionFailure = 8147;
 inline constexpr std::uint32_t kDeviceUnexpectedError = 8148;
 inline constexpr std::uint32_t kDefaultChoice = 8150;
+inline constexpr std::uint32_t kCertificateFile = 8202;
 inline constexpr std::uint32_t kNetworkLocation = 8206;
 inline constexpr std::uint32_t kNoScriptToDebug = 8207;
 

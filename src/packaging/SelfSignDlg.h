@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+
+#include "framework/CDialog.h"
+#include "framework/ComboBox.h"
+
+namespace qutav {
+
+/// Makes a self-signed certificate with the packaging tool. OK closes it only when the tool has
+/// made one; the new file is then the certificate of the settings. The password is kept nowhere.
+class CSelfSignDlg : public CDialog {
+ public:
+  explicit CSelfSignDlg(WindowHandle parent);
+  void OnOK() override;
+
+  /// Appends the tool's arguments. False at the first required field that is empty, with what came
+  /// before it appended. Gives "Save as:" the ending ".p12" when it has none of a keystore.
+  bool BuildCertificateArguments(std::u16string& arguments);
+
+  /// Runs the tool, waits for it and tells what came of it. True when it made the certificate.
+  bool RunCertificateTool(const std::u16string& arguments);
+
+ protected:
+  bool OnInitDialog() override;
+
+ private:
+  void AddFields();
+  void AddType();
+  void AddValidity();
+  void AddDestination();
+  void AddButtons();
+  void BrowseDestination();
+  std::u16string StartName() const;
+  void AddKeystoreEnding();
+  bool PasswordsMatch() const;
+  bool MayWriteDestination() const;
+
+  Edit* publisher_ = nullptr;
+  Edit* unit_ = nullptr;
+  Edit* organization_ = nullptr;
+  ComboBox* country_ = nullptr;
+  Edit* password_ = nullptr;
+  Edit* confirmation_ = nullptr;
+  ComboBox* type_ = nullptr;
+  Edit* validity_ = nullptr;
+  Edit* destination_ = nullptr;
+};
+
+}  // namespace qutav
