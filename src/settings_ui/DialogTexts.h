@@ -25,6 +25,25 @@ inline constexpr std::uint32_t kSheetOk = 9030;
 inline constexpr std::uint32_t kSheetCancel = 9031;
 inline constexpr std::uint32_t kSheetHelp = 9032;
 
+inline constexpr std::uint32_t kDeployTitle = 9150;
+inline constexpr std::uint32_t kDeployCertificate = 9151;
+inline constexpr std::uint32_t kDeployBrowse = 9152;
+inline constexpr std::uint32_t kDeployCreate = 9153;
+inline constexpr std::uint32_t kDeployPassword = 9154;
+inline constexpr std::uint32_t kDeployRemember = 9155;
+inline constexpr std::uint32_t kDeployType = 9156;
+inline constexpr std::uint32_t kDeployDeviceRelease = 9157;
+inline constexpr std::uint32_t kDeployEmulatorRelease = 9158;
+inline constexpr std::uint32_t kDeployDebug = 9159;
+inline constexpr std::uint32_t kDeployNetwork = 9160;
+inline constexpr std::uint32_t kDeployRuntime = 9161;
+inline constexpr std::uint32_t kDeployEmbed = 9162;
+inline constexpr std::uint32_t kDeployGetFrom = 9163;
+inline constexpr std::uint32_t kDeployAfter = 9164;
+inline constexpr std::uint32_t kDeployInstall = 9165;
+inline constexpr std::uint32_t kDeployLaunch = 9166;
+inline constexpr std::uint32_t kDeployRefresh = 9167;
+
 inline constexpr std::uint32_t kCertificateTitle = 9280;
 inline constexpr std::uint32_t kCertificatePublisher = 9281;
 inline constexpr std::uint32_t kCertificateUnit = 9282;

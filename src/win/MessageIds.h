@@ -5,6 +5,9 @@
 
 namespace qutav::messages {
 
+inline constexpr std::uint32_t kCertificateRequired = 8001;
+inline constexpr std::uint32_t kCertificateMissing = 8003;
+inline constexpr std::uint32_t kPasswordEmpty = 8005;
 inline constexpr std::uint32_t kPasswordsDiffer = 8006;
 inline constexpr std::uint32_t kOverwriteCertificate = 8008;
 inline constexpr std::uint32_t kAllFieldsRequired = 8009;
@@ -14,6 +17,7 @@ inline constexpr std::uint32_t kCertificateCreated = 8018;
 inline constexpr std::uint32_t kIpaCreated = 8107;
 inline constexpr std::uint32_t kExeCreated = 8108;
 inline constexpr std::uint32_t kApkCreated = 8109;
+inline constexpr std::uint32_t kNoDeviceFound = 8111;
 inline constexpr std::uint32_t kDescriptorCannotBeParsed = 8031;
 inline constexpr std::uint32_t kNamespaceMissing = 8032;
 inline constexpr std::uint32_t kNamespaceInvalid = 8033;
@@ -38,6 +42,8 @@ inline constexpr std::uint32_t kCertificateInvalid = 8058;
 inline constexpr std::uint32_t kSigningFailed = 8059;
 inline constexpr std::uint32_t kMissingFilesQuestion = 8072;
 inline constexpr std::uint32_t kMissingFilesHeading = 8073;
+inline constexpr std::uint32_t kP12File = 8077;
+inline constexpr std::uint32_t kPfxFile = 8078;
 inline constexpr std::uint32_t kMovieInvalid = 8082;
 inline constexpr std::uint32_t kMovieVersionTooHigh = 8083;
 inline constexpr std::uint32_t kErrorCreatingCertificate = 8084;
@@ -62,6 +68,7 @@ inline constexpr std::uint32_t kConnectionFailure = 8147;
 inline constexpr std::uint32_t kDeviceUnexpectedError = 8148;
 inline constexpr std::uint32_t kDefaultChoice = 8150;
 inline constexpr std::uint32_t kCertificateFile = 8202;
+inline constexpr std::uint32_t kJksFile = 8205;
 inline constexpr std::uint32_t kNetworkLocation = 8206;
 inline constexpr std::uint32_t kNoScriptToDebug = 8207;
 

@@ -3,6 +3,7 @@
 #include "ServicesTest.h"
 #include "framework/CDialog.h"
 #include "packaging/SelfSignDlg.h"
+#include "settings_ui/DigitalSigDlg.h"
 #include "settings_ui/ProgressDlg.h"
 #include "settings_ui/SettingsSheet.h"
 #include "settings_ui/SignaturePasswordDlg.h"
@@ -20,6 +21,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CSignaturePasswordDlg>(nullptr));
   dialogs.push_back(std::make_unique<CSettingsPropSheet>(false, 0));
   dialogs.push_back(std::make_unique<CSettingsPropSheet>(true, 0));
+  dialogs.push_back(std::make_unique<CDigitalSigDlg>());
   dialogs.push_back(std::make_unique<CSelfSignDlg>(nullptr));
   return dialogs;
 }
