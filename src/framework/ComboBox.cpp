@@ -1,6 +1,7 @@
 #include "framework/ComboBox.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "framework/ControlVisitor.h"
 #include "framework/RowText.h"
@@ -58,6 +59,11 @@ void ComboBox::FitDropWidth() {
 void ComboBox::Choose(int index) {
   SetCurSel(index);
   if (onSelectionEnd) onSelectionEnd();
+}
+
+void ComboBox::Type(std::u16string typed) {
+  selection_ = -1;
+  SetText(std::move(typed));
 }
 
 }  // namespace qutav

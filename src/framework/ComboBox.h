@@ -53,9 +53,9 @@ class ComboBox final : public Control {
   void FitDropWidth();
   int DroppedWidth() const { return droppedWidth_; }
 
-  /// As a user does.
+  /// As a user does. What is typed takes the choice away, also when it reads like a row.
   void Choose(int index);
-  void Type(std::u16string typed) { SetText(std::move(typed)); }
+  void Type(std::u16string typed);
 
  private:
   std::vector<std::u16string> rows_;
