@@ -1,0 +1,54 @@
+// A property sheet and pages that write down what happens to them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "framework/CPropertySheet.h"
+
+namespace qutav::test {
+
+class SamplePage : public CPropertyPage {
+ public:
+  SamplePage(const std::u16string& label, std::vector<std::u16string>& events)
+      : CPropertyPage(u"CSamplePage" + label, label, 0), events_(events) {}
+  using CPropertyPage::Add;
+
+ protected:
+  bool OnInitDialog() override {
+    events_.push_back(u"create " + Label());
+    return CPropertyPage::OnInitDialog();
+  }
+  void OnDestroy() override { events_.push_back(u"destroy " + Label()); }
+
+ private:
+  std::vector<std::u16string>& events_;
+};
+
+class SampleSheet : public CPropertySheet {
+ public:
+  explicit SampleSheet(int startPage = 3) : CPropertySheet(u"CSampleSheet", 0, startPage) {
+    Add<Button>(u"Publish").onClick = [this] { events.push_back(u"Publish"); };
+  }
+  using CPropertySheet::GetButton;
+
+  void OnOK() override {
+    events.push_back(u"OK");
+    CPropertySheet::OnOK();
+  }
+  void OnCancel() override {
+    events.push_back(u"Cancel");
+    CPropertySheet::OnCancel();
+  }
+  void OnHelp() override { events.push_back(u"Help"); }
+  void PutSetting(const std::u16string& key, const std::u16string& value) override {
+    events.push_back(key + u"=" + value);
+  }
+  void PutRegistryValue(const std::u16string& name, const std::u16string& value) override {
+    events.push_back(u"registry " + name + u"=" + value);
+  }
+
+  std::vector<std::u16string> events;
+};
+
+}  // namespace qutav::test
