@@ -1,12 +1,7 @@
 // Messages, dialogs and the sheet, answered by a script and written to a transcript.
 
-#include <iostream>
-#include <sstream>
-
-#include "ServicesTest.h"
-#include "TemporaryFolder.h"
-#include "framework/CPropertySheet.h"
-#include "framework/scripted/ScriptedFrontEnd.h"
+#include "SampleSheet.h"
+#include "ScriptedTest.h"
 #include "platform/Text.h"
 #include "settings_ui/ProgressDlg.h"
 #include "settings_ui/TimestampRetryDlg.h"
@@ -41,55 +36,8 @@ class SampleDialog : public CDialog {
   CheckBox& Remember() const { return Find<CheckBox>(*this, u"Remember"); }
 };
 
-// Writes down what happens to it.
-class SampleSheet : public CPropertySheet {
- public:
-  SampleSheet() : CPropertySheet(u"CSampleSheet", 0, 3) {
-    Add<Button>(u"Publish").onClick = [this] { events.push_back(u"Publish"); };
-  }
-  void OnOK() override {
-    events.push_back(u"OK");
-    CPropertySheet::OnOK();
-  }
-  void OnCancel() override {
-    events.push_back(u"Cancel");
-    CPropertySheet::OnCancel();
-  }
-  void PutSetting(const std::u16string& key, const std::u16string& value) override {
-    events.push_back(key + u"=" + value);
-  }
-  void PutRegistryValue(const std::u16string& name, const std::u16string& value) override {
-    events.push_back(u"registry " + name + u"=" + value);
-  }
-  std::vector<std::u16string> events;
-};
-
-class ScriptedFrontEndTest : public ServicesTest {
+class ScriptedFrontEndTest : public ScriptedTest {
  protected:
-  ScriptedFrontEndTest() : oldErrors_(std::cerr.rdbuf(errors.rdbuf())) { Answers(""); }
-  ~ScriptedFrontEndTest() override { std::cerr.rdbuf(oldErrors_); }
-
-  // Puts a script of these answers in force.
-  void Answers(const std::string& answers) {
-    scripted = std::make_unique<ScriptedFrontEnd>(
-        AnswerScript::Parse(json::parse("{\"answers\": [" + answers + "]}")), transcript);
-    TheServices().frontEnd = scripted.get();
-  }
-  // All events of the transcript, or those of a kind.
-  std::vector<json> Events(const std::string& kind = "") const {
-    std::vector<json> events;
-    std::istringstream stream(folder.BytesOf("transcript"));
-    for (std::string line; std::getline(stream, line);) {
-      json event = json::parse(line);
-      if (kind.empty() || event.at("event") == kind) events.push_back(std::move(event));
-    }
-    return events;
-  }
-  std::vector<std::string> Mistakes() const {
-    std::vector<std::string> texts;
-    for (const json& event : Events("script-error")) texts.push_back(event.at("text"));
-    return texts;
-  }
   int Show(MessageButtons buttons, const std::u16string& text = u"text") const {
     return scripted->ShowMessage({nullptr, u"T", text, MessageIcon::kWarning, buttons});
   }
@@ -109,14 +57,6 @@ class ScriptedFrontEndTest : public ServicesTest {
     dialog.SetDoneFlag(&done);
     return dialog.DoModal();
   }
-
-  TemporaryFolder folder;
-  std::ostringstream errors;
-  Transcript transcript{folder.Native("transcript").string()};
-  std::unique_ptr<ScriptedFrontEnd> scripted;
-
- private:
-  std::streambuf* oldErrors_;
 };
 
 TEST_F(ScriptedFrontEndTest, WithoutAnAnswerAMessageGetsOkAndAQuestionCancel) {
