@@ -52,6 +52,9 @@ class DescriptorDocument {
   int Save(const std::u16string& path);
   /// Frees the parser and the DOM with it. Always 0.
   int Close();
+  /// The DOM of the latest parse, for readers of other files than descriptors; null without one.
+  /// The next parse and `Close` destroy it.
+  xercesc::DOMDocument* Document() const;
 
   // --- Reading fields --------------------------------------------------------------------------
 
@@ -124,7 +127,6 @@ class DescriptorDocument {
 
  private:
   bool Parse(const std::u16string& path);
-  xercesc::DOMDocument* Document() const;
   /// The code for what is missing, 0 when parser, document and root are there.
   int CheckRoot() const;
   xercesc::DOMElement& Root() const;

@@ -59,5 +59,9 @@ inline constexpr std::uint32_t kCertificateBrowse = 9291;
 inline constexpr std::uint32_t kCertificateHelp = 9292;
 inline constexpr std::uint32_t kCertificateOk = 9293;
 inline constexpr std::uint32_t kCertificateCancel = 9294;
+inline constexpr std::uint32_t kPermissionsTitle = 9260;
+inline constexpr std::uint32_t kPermissionsManual = 9261;
+inline constexpr std::uint32_t kPermissionsInvitation = 9262;
+inline constexpr std::uint32_t kPermissionsDescription = 9263;
 
 }  // namespace qutav::texts

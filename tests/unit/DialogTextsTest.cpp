@@ -4,6 +4,7 @@
 #include "framework/CDialog.h"
 #include "packaging/SelfSignDlg.h"
 #include "settings_ui/DigitalSigDlg.h"
+#include "settings_ui/DroFeaturesDlg.h"
 #include "settings_ui/ProgressDlg.h"
 #include "settings_ui/SettingsSheet.h"
 #include "settings_ui/SignaturePasswordDlg.h"
@@ -19,6 +20,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CProgressDlg>(nullptr));
   dialogs.push_back(std::make_unique<CTimestampRetryDlg>(nullptr));
   dialogs.push_back(std::make_unique<CSignaturePasswordDlg>(nullptr));
+  dialogs.push_back(std::make_unique<CDroFeaturesDlg>());
   dialogs.push_back(std::make_unique<CSettingsPropSheet>(false, 0));
   dialogs.push_back(std::make_unique<CSettingsPropSheet>(true, 0));
   dialogs.push_back(std::make_unique<CDigitalSigDlg>());
