@@ -64,4 +64,7 @@ inline constexpr std::uint32_t kPermissionsManual = 9261;
 inline constexpr std::uint32_t kPermissionsInvitation = 9262;
 inline constexpr std::uint32_t kPermissionsDescription = 9263;
 
+inline constexpr std::uint32_t kLanguagesTitle = 9270;
+inline constexpr std::uint32_t kLanguagesInvitation = 9271;
+
 }  // namespace qutav::texts

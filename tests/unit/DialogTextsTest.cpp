@@ -5,6 +5,7 @@
 #include "packaging/SelfSignDlg.h"
 #include "settings_ui/DigitalSigDlg.h"
 #include "settings_ui/DroFeaturesDlg.h"
+#include "settings_ui/LanguagesDlg.h"
 #include "settings_ui/ProgressDlg.h"
 #include "settings_ui/SettingsSheet.h"
 #include "settings_ui/SignaturePasswordDlg.h"
@@ -21,6 +22,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CTimestampRetryDlg>(nullptr));
   dialogs.push_back(std::make_unique<CSignaturePasswordDlg>(nullptr));
   dialogs.push_back(std::make_unique<CDroFeaturesDlg>());
+  dialogs.push_back(std::make_unique<CLanguagesDlg>());
   dialogs.push_back(std::make_unique<CSettingsPropSheet>(false, 0));
   dialogs.push_back(std::make_unique<CSettingsPropSheet>(true, 0));
   dialogs.push_back(std::make_unique<CDigitalSigDlg>());
