@@ -50,6 +50,10 @@ std::u16string ReplaceExtension(const std::u16string& path, const std::u16string
   return path.substr(0, path.rfind(u'.')) + (dotted ? u"" : u".") + extension;
 }
 
+std::u16string MakeRelative(const std::u16string& path, const std::u16string& folder) {
+  return path.find(folder) == path.npos ? path : path.substr(folder.size());
+}
+
 void DecodePercent20(std::u16string& target, const std::u16string& source) {
   if (source.empty()) return;
   const std::u16string decoded = ReplaceAll(source, u"%20", u" ");

@@ -27,6 +27,10 @@ std::u16string WithBackslashes(std::u16string text);
 /// gets a dot when it has none. An empty path stays empty, an empty extension changes nothing.
 std::u16string ReplaceExtension(const std::u16string& path, const std::u16string& extension);
 
+/// The end of the path, shorter by the folder's length, when the folder's text stands anywhere in
+/// it in the same case; any other path as it is.
+std::u16string MakeRelative(const std::u16string& path, const std::u16string& folder);
+
 /// "%20" becomes a blank, any other percent sign is dropped. An empty source leaves the target
 /// alone.
 void DecodePercent20(std::u16string& target, const std::u16string& source);

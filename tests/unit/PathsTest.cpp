@@ -103,6 +103,22 @@ TEST_F(PathsTest, EncodingForUrisTouchesBlanksOnly) {
   EXPECT_EQ(Encoded(u" a b%\t"), u"%20a%20b%\t");
 }
 
+TEST_F(PathsTest, APathBelowAFolderIsNamedFromThere) {
+  EXPECT_EQ(MakeRelative(u"C:\\m\\data\\one.xml", u"C:\\m\\"), u"data\\one.xml");
+  EXPECT_EQ(MakeRelative(u"C:\\m\\", u"C:\\m\\"), u"");
+}
+
+TEST_F(PathsTest, APathBesideAFolderOrInAnotherCaseStaysAsItIs) {
+  EXPECT_EQ(MakeRelative(u"C:\\mm\\one.xml", u"C:\\m\\"), u"C:\\mm\\one.xml");
+  EXPECT_EQ(MakeRelative(u"C:\\M\\one.xml", u"C:\\m\\"), u"C:\\M\\one.xml");
+  EXPECT_EQ(MakeRelative(u"C:\\m", u"C:\\m\\"), u"C:\\m");
+}
+
+// As many units as the folder has are cut from the beginning, wherever its text stands.
+TEST_F(PathsTest, AFolderInTheMiddleOfAPathCutsThePathsBeginning) {
+  EXPECT_EQ(MakeRelative(u"D:\\x\\m\\one.xml", u"\\m\\"), u"x\\m\\one.xml");
+}
+
 TEST_F(PathsTest, AnEmptySourceLeavesTheTargetAlone) {
   EXPECT_EQ(Decoded(u""), u"old");
   EXPECT_EQ(Encoded(u""), u"old");
