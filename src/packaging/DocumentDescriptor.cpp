@@ -1,7 +1,5 @@
 #include "packaging/DocumentDescriptor.h"
 
-#include <string>
-
 #include "descriptor/DescriptorDocument.h"
 #include "framework/MessageBoxes.h"
 #include "packaging/DescriptorGenerator.h"
@@ -15,11 +13,6 @@
 namespace qutav {
 namespace {
 
-std::u16string DocumentDescriptorPath() {
-  return WithBackslashes(SettingsGet(keys::kMovieFolder) + SettingsGet(keys::kMovieBaseName) +
-                         u"-app.xml");
-}
-
 int LoadReplacingMilestone(const std::u16string& path) {
   int result = CurrentDescriptor.Load(path);
   if (result == kMilestoneFormat) {
@@ -31,6 +24,11 @@ int LoadReplacingMilestone(const std::u16string& path) {
 }
 
 }  // namespace
+
+std::u16string DocumentDescriptorPath() {
+  return WithBackslashes(SettingsGet(keys::kMovieFolder) + SettingsGet(keys::kMovieBaseName) +
+                         u"-app.xml");
+}
 
 int LoadDocumentDescriptor(bool force) {
   const std::u16string path = DocumentDescriptorPath();

@@ -1,7 +1,12 @@
 // Bringing the document's descriptor into and out of `CurrentDescriptor`.
 #pragma once
 
+#include <string>
+
 namespace qutav {
+
+/// Where the document's descriptor lies: beside the movie, backslashes.
+std::u16string DocumentDescriptorPath();
 
 /// Makes a DOM of the document's descriptor ready in `CurrentDescriptor`; a missing or early one is
 /// generated first. Without `force` a DOM that was loaded from that path stays, unsaved edits and

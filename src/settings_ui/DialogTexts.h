@@ -66,5 +66,26 @@ inline constexpr std::uint32_t kPermissionsDescription = 9263;
 
 inline constexpr std::uint32_t kLanguagesTitle = 9270;
 inline constexpr std::uint32_t kLanguagesInvitation = 9271;
+inline constexpr std::uint32_t kMobileTitle = 9100;
+inline constexpr std::uint32_t kMobileOutputFile = 9101;
+inline constexpr std::uint32_t kMobileBrowse = 9102;
+inline constexpr std::uint32_t kMobileAppName = 9103;
+inline constexpr std::uint32_t kMobileIdPrefix = 9104;
+inline constexpr std::uint32_t kMobileAppId = 9105;
+inline constexpr std::uint32_t kMobileIdExample = 9106;
+inline constexpr std::uint32_t kMobileVersion = 9107;
+inline constexpr std::uint32_t kMobileVersionLabel = 9108;
+inline constexpr std::uint32_t kMobileAspectRatio = 9109;
+inline constexpr std::uint32_t kMobileFullScreen = 9110;
+inline constexpr std::uint32_t kMobileAutoOrientation = 9111;
+inline constexpr std::uint32_t kMobileRenderMode = 9112;
+inline constexpr std::uint32_t kMobileProcessor = 9113;
+inline constexpr std::uint32_t kMobileArmV7 = 9114;
+inline constexpr std::uint32_t kMobileIntel = 9115;
+inline constexpr std::uint32_t kMobileArmV8 = 9116;
+inline constexpr std::uint32_t kMobileIncludedFiles = 9117;
+inline constexpr std::uint32_t kMobileAddFile = 9118;
+inline constexpr std::uint32_t kMobileDelete = 9119;
+inline constexpr std::uint32_t kMobileAddFolder = 9120;
 
 }  // namespace qutav::texts

@@ -1,7 +1,6 @@
 #include "DescriptorTest.h"
 #include "descriptor/SampleNamespace.h"
 #include "packaging/DescriptorGenerator.h"
-#include "packaging/DocumentDescriptor.h"
 #include "support/RuntimeVersion.h"
 #include "win/DocumentChecks.h"
 #include "win/DocumentPaths.h"
@@ -31,17 +30,6 @@ class SampleNamespaceTest : public DescriptorTest {
     files.Put(kSample, "<application" + attributes + "/>");
   }
   void PutCurrentSample() { PutSample(std::string(" xmlns=\"") + kCurrent + "\""); }
-
-  // What the mobile page does when the namespace differs.
-  static void BringForward() {
-    std::string sample;
-    std::string own;
-    if (ReadSampleNamespace(sample) != 0) return;
-    CurrentDescriptor.GetAttribute("application", "xmlns", own);
-    if (own == sample) return;
-    CurrentDescriptor.MigrateVersionElement();
-    CurrentDescriptor.SetAttribute("application", "xmlns", sample);
-  }
 
   static std::string Namespace() {
     std::string value = "unread";
@@ -119,46 +107,15 @@ TEST_F(SampleNamespaceTest, AGeneratedDescriptorHasTheSamplesNamespaceOrFormatTw
               HasSubstr("<application xmlns=\"http://ns.zenvoka.example/tav/application/33.0\">"));
 }
 
-TEST_F(SampleNamespaceTest, AnEmptyOrMissingNamespaceLoadsAndIsBroughtForward) {
-  PutCurrentSample();
-  for (const char* head : {"<application>", "<application xmlns=\"\">"}) {
-    EXPECT_EQ(Load(std::string(head) + "<version>1.5</version></application>"), kLoaded);
-
-    BringForward();
-
-    EXPECT_EQ(Namespace(), kCurrent);
-    EXPECT_EQ(Children(), "<versionNumber>1.5</versionNumber>");
-  }
-}
-
-TEST_F(SampleNamespaceTest, AnEqualNamespaceChangesNothingEvenWithAVersion) {
+TEST_F(SampleNamespaceTest, OpeningADescriptorWithTheSamplesNamespaceLeavesTheFile) {
   PutCurrentSample();
   const std::string text =
       std::string("<application xmlns=\"") + kCurrent + "\"><version>1.5</version></application>";
-  Load(text);
-
-  BringForward();
-  EXPECT_EQ(Children(), "<version>1.5</version>");
-
   files.Put(kDescriptorPath, text);
+
   EXPECT_TRUE(OpenDescriptor());
+
   EXPECT_EQ(files.BytesOf(kDescriptorPath), text);
-}
-
-TEST_F(SampleNamespaceTest, AChangeThatIsNotSavedIsMadeAgainAtTheNextOpening) {
-  PutCurrentSample();
-  const std::string text = "<application xmlns=\"old\"><version>1.5</version></application>";
-  files.Put(kDescriptorPath, text);
-  LoadDocumentDescriptor(false);
-  BringForward();
-
-  CurrentDescriptor.Close();  // as the sheet does when it is left by Cancel
-  EXPECT_EQ(files.BytesOf(kDescriptorPath), text);
-
-  LoadDocumentDescriptor(false);
-  EXPECT_EQ(Namespace(), "old");
-  BringForward();
-  EXPECT_EQ(Namespace(), kCurrent);
 }
 
 TEST_F(SampleNamespaceTest, OpeningWritesTheNamespaceAtOnceAndLeavesTheVersion) {
