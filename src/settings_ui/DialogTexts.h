@@ -88,4 +88,26 @@ inline constexpr std::uint32_t kMobileAddFile = 9118;
 inline constexpr std::uint32_t kMobileDelete = 9119;
 inline constexpr std::uint32_t kMobileAddFolder = 9120;
 
+inline constexpr std::uint32_t kDesktopTitle = 9310;
+inline constexpr std::uint32_t kDesktopOutputFile = 9311;
+inline constexpr std::uint32_t kDesktopBrowse = 9312;
+inline constexpr std::uint32_t kDesktopInstaller = 9313;
+inline constexpr std::uint32_t kDesktopFileName = 9314;
+inline constexpr std::uint32_t kDesktopAppName = 9315;
+inline constexpr std::uint32_t kDesktopVersion = 9316;
+inline constexpr std::uint32_t kDesktopAppId = 9317;
+inline constexpr std::uint32_t kDesktopIdExample = 9318;
+inline constexpr std::uint32_t kDesktopDescription = 9319;
+inline constexpr std::uint32_t kDesktopCopyright = 9320;
+inline constexpr std::uint32_t kDesktopWindowStyle = 9321;
+inline constexpr std::uint32_t kDesktopProfiles = 9322;
+inline constexpr std::uint32_t kDesktopProfileDesktop = 9323;
+inline constexpr std::uint32_t kDesktopProfileMobile = 9324;
+inline constexpr std::uint32_t kDesktopProfileExtended = 9325;
+inline constexpr std::uint32_t kDesktopProfileExtendedMobile = 9326;
+inline constexpr std::uint32_t kDesktopIncludedFiles = 9327;
+inline constexpr std::uint32_t kDesktopAddFile = 9328;
+inline constexpr std::uint32_t kDesktopDelete = 9329;
+inline constexpr std::uint32_t kDesktopAddFolder = 9330;
+
 }  // namespace qutav::texts

@@ -6,6 +6,7 @@
 #include "settings_ui/DigitalSigDlg.h"
 #include "settings_ui/DroFeaturesDlg.h"
 #include "settings_ui/LanguagesDlg.h"
+#include "settings_ui/AppSettingsDlg.h"
 #include "settings_ui/IpaSettingsDlg.h"
 #include "settings_ui/ProgressDlg.h"
 #include "settings_ui/SettingsSheet.h"
@@ -29,6 +30,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CDigitalSigDlg>());
   dialogs.push_back(std::make_unique<CSelfSignDlg>(nullptr));
   dialogs.push_back(std::make_unique<CIpaSettingsDlg>());
+  dialogs.push_back(std::make_unique<CAppSettingsDlg>());
   return dialogs;
 }
 
