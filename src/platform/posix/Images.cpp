@@ -18,6 +18,8 @@ std::shared_ptr<const Image> ReadPixels(png_image& header) {
   image->height = static_cast<int>(header.height);
   image->pixels.resize(std::size_t{header.width} * header.height);
   header.format = PNG_FORMAT_BGRA;  // in memory, from the low byte: 0xAARRGGBB
+  // Unless the file says otherwise, the library takes 16 bits for linear light and brightens them.
+  header.flags |= PNG_IMAGE_FLAG_16BIT_sRGB;
   if (png_image_finish_read(&header, nullptr, image->pixels.data(), 0, nullptr) == 0) return {};
   return image;
 }
