@@ -9,6 +9,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -114,6 +115,12 @@ class DescriptorDocument {
   /// The first file type of that name; missing children leave their fields alone: 0; -1; 1; 2; 3;
   /// 4; 5 no type of that name.
   int GetFileType(const std::u16string& name, FileTypeRecord& record) const;
+
+  // --- Provisioning profiles -------------------------------------------------------------------
+
+  /// The identifier that a provisioning profile's property list covers, without the team in front
+  /// of it; nothing when it tells none. One node of white space stands between a key and its value.
+  std::optional<std::u16string> ReadApplicationIdentifier() const;
 
   // --- Android manifest additions --------------------------------------------------------------
 
