@@ -109,5 +109,20 @@ inline constexpr std::uint32_t kDesktopIncludedFiles = 9327;
 inline constexpr std::uint32_t kDesktopAddFile = 9328;
 inline constexpr std::uint32_t kDesktopDelete = 9329;
 inline constexpr std::uint32_t kDesktopAddFolder = 9330;
+inline constexpr std::uint32_t kIosDeploymentTitle = 9200;
+inline constexpr std::uint32_t kIosSignatureGroup = 9201;
+inline constexpr std::uint32_t kIosCertificateHint = 9202;
+inline constexpr std::uint32_t kIosMoreInfo = 9203;
+inline constexpr std::uint32_t kIosCertificate = 9204;
+inline constexpr std::uint32_t kIosBrowse = 9205;
+inline constexpr std::uint32_t kIosPassword = 9206;
+inline constexpr std::uint32_t kIosRemember = 9207;
+inline constexpr std::uint32_t kIosProfile = 9208;
+inline constexpr std::uint32_t kIosApplicationId = 9209;
+inline constexpr std::uint32_t kIosDeployTypeGroup = 9210;
+inline constexpr std::uint32_t kIosDeployTest = 9211;
+inline constexpr std::uint32_t kIosDeployDebug = 9212;
+inline constexpr std::uint32_t kIosDeployAdHoc = 9213;
+inline constexpr std::uint32_t kIosDeployStore = 9214;
 
 }  // namespace qutav::texts

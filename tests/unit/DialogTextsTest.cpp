@@ -12,6 +12,7 @@
 #include "settings_ui/SettingsSheet.h"
 #include "settings_ui/SignaturePasswordDlg.h"
 #include "settings_ui/TimestampRetryDlg.h"
+#include "settings_ui/VolDeployDlg.h"
 #include "win/InterfaceLanguage.h"
 
 namespace qutav::test {
@@ -31,6 +32,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CSelfSignDlg>(nullptr));
   dialogs.push_back(std::make_unique<CIpaSettingsDlg>());
   dialogs.push_back(std::make_unique<CAppSettingsDlg>());
+  dialogs.push_back(std::make_unique<CVolDeployDlg>());
   return dialogs;
 }
 
