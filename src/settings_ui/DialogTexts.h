@@ -125,4 +125,12 @@ inline constexpr std::uint32_t kIosDeployDebug = 9212;
 inline constexpr std::uint32_t kIosDeployAdHoc = 9213;
 inline constexpr std::uint32_t kIosDeployStore = 9214;
 
+inline constexpr std::uint32_t kIconsTitle = 9240;
+inline constexpr std::uint32_t kIconsSizes = 9241;
+inline constexpr std::uint32_t kIconsFirstSize = 9242;
+inline constexpr std::uint32_t kIconsPath = 9243;
+inline constexpr std::uint32_t kIconsBrowse = 9244;
+inline constexpr std::uint32_t kIconsRemove = 9245;
+inline constexpr std::uint32_t kIconsPreview = 9246;
+
 }  // namespace qutav::texts

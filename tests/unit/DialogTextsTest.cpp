@@ -8,6 +8,7 @@
 #include "settings_ui/LanguagesDlg.h"
 #include "settings_ui/AppSettingsDlg.h"
 #include "settings_ui/IpaSettingsDlg.h"
+#include "settings_ui/IconPreviewDlg.h"
 #include "settings_ui/ProgressDlg.h"
 #include "settings_ui/SettingsSheet.h"
 #include "settings_ui/SignaturePasswordDlg.h"
@@ -33,6 +34,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CIpaSettingsDlg>());
   dialogs.push_back(std::make_unique<CAppSettingsDlg>());
   dialogs.push_back(std::make_unique<CVolDeployDlg>());
+  dialogs.push_back(std::make_unique<CIconPreviewDlg>());
   return dialogs;
 }
 

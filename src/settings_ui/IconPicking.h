@@ -1,0 +1,31 @@
+// How dialogs let a user choose an icon, and get it below the root content folder.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace qutav {
+
+/// The movie's folder as controls show it: backslashes, one at the end.
+std::u16string RootContentFolder();
+
+/// Lets the user choose a PNG file; nothing when the dialog was cancelled.
+std::optional<std::u16string> ChooseIconFile();
+
+/// Whether a path counts as one below the root folder: it holds the folder's text, in the same
+/// case, at any position.
+bool IsBelowRoot(const std::u16string& path, const std::u16string& rootFolder);
+
+/// The end of a path below the root folder, shorter than the path by the folder's length; any other
+/// path as it stands.
+std::u16string MakeRelative(const std::u16string& path, const std::u16string& rootFolder);
+
+/// Asks whether an icon from elsewhere may be copied below the root folder.
+bool AskToCopyIcon();
+
+/// Copies an icon to a folder below the root folder, over one of its name there, and returns its
+/// new path. No failure is told.
+std::u16string CopyIcon(const std::u16string& file, const std::u16string& rootFolder,
+                        const std::u16string& folderName);
+
+}  // namespace qutav
