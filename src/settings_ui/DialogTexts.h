@@ -133,4 +133,20 @@ inline constexpr std::uint32_t kIconsBrowse = 9244;
 inline constexpr std::uint32_t kIconsRemove = 9245;
 inline constexpr std::uint32_t kIconsPreview = 9246;
 
+inline constexpr std::uint32_t kFileTypeTitle = 9390;
+inline constexpr std::uint32_t kFileTypeSettingsGroup = 9391;
+inline constexpr std::uint32_t kFileTypeName = 9392;
+inline constexpr std::uint32_t kFileTypeExtension = 9393;
+inline constexpr std::uint32_t kFileTypeDescription = 9394;
+inline constexpr std::uint32_t kFileTypeContentType = 9395;
+inline constexpr std::uint32_t kFileTypeIconsGroup = 9396;
+// Each the first of four, from the largest icon to the smallest.
+inline constexpr std::uint32_t kFileTypeFirstPreview = 9397;
+inline constexpr std::uint32_t kFileTypeFirstPath = 9401;
+inline constexpr std::uint32_t kFileTypeFirstBrowse = 9405;
+inline constexpr std::uint32_t kFileTypeFirstRemove = 9409;
+inline constexpr std::uint32_t kFileTypeHelp = 9413;
+inline constexpr std::uint32_t kFileTypeOk = 9414;
+inline constexpr std::uint32_t kFileTypeCancel = 9415;
+
 }  // namespace qutav::texts
