@@ -44,6 +44,7 @@ inline constexpr std::uint32_t kKeystorePassword = 8046;
 inline constexpr std::uint32_t kChoosePackagedFolder = 8050;
 inline constexpr std::uint32_t kFileTypeIncomplete = 8047;
 inline constexpr std::uint32_t kImageFile = 8049;
+inline constexpr std::uint32_t kNone = 8052;
 inline constexpr std::uint32_t kUsageError = 8054;
 inline constexpr std::uint32_t kUnknownError = 8055;
 inline constexpr std::uint32_t kDestinationNotWritable = 8056;

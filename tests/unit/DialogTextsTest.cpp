@@ -8,6 +8,7 @@
 #include "settings_ui/LanguagesDlg.h"
 #include "settings_ui/AppSettingsDlg.h"
 #include "settings_ui/IpaSettingsDlg.h"
+#include "settings_ui/AdvancedSettingsDlg.h"
 #include "settings_ui/FileTypeDlg.h"
 #include "settings_ui/IconPreviewDlg.h"
 #include "settings_ui/ProgressDlg.h"
@@ -36,6 +37,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CAppSettingsDlg>());
   dialogs.push_back(std::make_unique<CVolDeployDlg>());
   dialogs.push_back(std::make_unique<CIconPreviewDlg>());
+  dialogs.push_back(std::make_unique<CAdvancedSettingsDlg>());
   static FileTypeRecord fileType;
   dialogs.push_back(std::make_unique<CFileTypeDlg>(nullptr, fileType));
   return dialogs;
