@@ -169,6 +169,16 @@ TEST_F(AppSettingsDlgLoadTest, LocalisedNameAndDescriptionDisableTheirFields) {
   EXPECT_EQ(EditOf(u"Description:").fontFace, u"");
 }
 
+TEST_F(AppSettingsDlgLoadTest, ANameAndADescriptionThatWereReadEnableTheirFields) {
+  EditOf(u"App name:").enabled = false;
+  EditOf(u"Description:").enabled = false;
+
+  Open("<name>My Game</name><description>Fun</description>");
+
+  EXPECT_TRUE(EditOf(u"App name:").enabled);
+  EXPECT_TRUE(EditOf(u"Description:").enabled);
+}
+
 TEST_F(AppSettingsDlgLoadTest, ADescriptionsLinesAreShownAsLines) {
   Open("<description>one\ntwo\n\nthree</description>");
 

@@ -309,6 +309,18 @@ TEST_F(IpaSettingsDlgLoadTest, ALocalisedNameDisablesItsField) {
   EXPECT_EQ(EditOf(u"App name:").text, u"");
 }
 
+TEST_F(IpaSettingsDlgLoadTest, OnlyANameThatWasReadEnablesItsField) {
+  Open("");
+  EditOf(u"App name:").enabled = false;
+
+  page.LoadFromDescriptor();
+  EXPECT_FALSE(EditOf(u"App name:").enabled);
+
+  LoadChildren("<name>My Game</name>");
+  page.LoadFromDescriptor();
+  EXPECT_TRUE(EditOf(u"App name:").enabled);
+}
+
 TEST_F(IpaSettingsDlgLoadTest, BoxesAreCheckedByTrueInAnyCaseAlone) {
   Open(
       "<initialWindow><fullScreen> TRUE </fullScreen><autoOrients>1</autoOrients>"
