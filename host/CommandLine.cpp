@@ -134,6 +134,7 @@ void AddEvaluateOptions(CLI::App& command, EvaluateOptions& options) {
   AddCommonOptions(command, options.common);
   command.add_option("SCRIPT-TEXT", options.script, "the script")->required();
   command.add_flag("--quiet", options.quiet, "do not print the result");
+  command.add_flag("--inside", options.inside, "run the script in this very process")->group("");
   command
       .add_option("--device", options.device,
                   "serial of the device that scripts find selected, by default the first one")

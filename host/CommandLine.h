@@ -58,6 +58,8 @@ struct EvaluateOptions {
   /// The device that scripts find selected; empty for the first one that is connected.
   std::string device;
   bool quiet = false;
+  /// The script runs in this very process, which the library may end.
+  bool inside = false;
 };
 
 /// The command ends here: help was shown, or the line was refused.

@@ -20,12 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 using Duration = std::chrono::duration<double>;
 
-std::vector<std::string> CallOptionsFor(const std::string& device) {
-  std::vector<std::string> options = {"--quiet"};
-  if (!device.empty()) options.push_back("--device=" + device);
-  return options;
-}
-
 class DeviceRun {
  public:
   DeviceRun(const DeviceRunOptions& options, const Document& document, fs::path transcript,
@@ -54,9 +48,8 @@ class DeviceRun {
     const auto start = std::chrono::steady_clock::now();
     const std::set<fs::path> folders = PackageFolders(document_);
     const PackageSnapshot before = TakeSnapshot(folders);
-    LibraryRun library(options_, document_, transcript_, console_);
-    library.Run(DeviceRunScript(options_, document_), CallOptionsFor(device),
-                ChildOutput::kToStandardError);
+    LibraryRun library(options_, transcript_, console_);
+    library.Run(DeviceRunScript(options_, document_), device);
     const Duration duration = std::chrono::steady_clock::now() - start;
     if (library.WasRefused()) return kRefused;
     cancelled_ = library.Record().PackagingCancelled();

@@ -12,8 +12,8 @@ int RunDevices(const DevicesOptions& options, Console& console) {
   const Document document = Document::Load(options.common.document);
   if (TellProblems(FindCallProblems(options, document), console)) return kRefused;
   const FrontEndSetup frontEnd(options);
-  LibraryRun library(options, document, frontEnd.Transcript(), console);
-  library.Run(DeviceListScript(options.common, document), {}, ChildOutput::kToStandardOutput);
+  LibraryRun library(options, frontEnd.Transcript(), console);
+  library.Print(DeviceListScript(options.common, document));
   if (library.WasRefused()) return kRefused;
   return library.Succeeded() ? kDone : kNotDone;
 }

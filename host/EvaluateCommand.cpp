@@ -2,11 +2,16 @@
 
 #include "host/ExitCodes.h"
 #include "host/HostSetup.h"
+#include "host/LibraryCall.h"
+#include "host/ProcessFamily.h"
+#include "host/ProcessState.h"
 #include "host/TextEncoding.h"
 
 namespace qutav::host {
 
-int RunEvaluate(const EvaluateOptions& options, Console& console) {
+namespace {
+
+int RunInside(const EvaluateOptions& options, Console& console) {
   console.SetVerbose(options.common.verbose);
   Document document = Document::Load(options.common.document);
   HostState state = MakeHostState(options.common, document, console);
@@ -24,6 +29,23 @@ int RunEvaluate(const EvaluateOptions& options, Console& console) {
     console.Result(ToUtf8(TextOf(evaluation.value).value_or(u"undefined")));
   }
   return saved ? kDone : kNotDone;
+}
+
+// A signal that ends us could not end what the library has started, while it has the one thread
+// that would see to it.
+int RunApart(const EvaluateOptions& options, Console& console) {
+  ProcessFamily family;
+  const ChildEnd end =
+      family.Run(ExecutableFile(), EvaluateArguments(options), ChildOutput::kToStandardOutput);
+  if (end.kind == ChildEnd::Kind::kExited) return end.number;
+  console.Message(UnexpectedEndText(end));
+  return kNotDone;
+}
+
+}  // namespace
+
+int RunEvaluate(const EvaluateOptions& options, Console& console) {
+  return options.inside ? RunInside(options, console) : RunApart(options, console);
 }
 
 }  // namespace qutav::host

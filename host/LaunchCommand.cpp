@@ -39,8 +39,8 @@ int RunLaunch(const LaunchOptions& options, Console& console) {
   if (TellProblems(FindCallProblems(options, document), console)) return kRefused;
   const FrontEndSetup frontEnd(options);
   if (!BringMovieUpToDate(options, document, console)) return kNotDone;
-  LibraryRun library(options, document, frontEnd.Transcript(), console);
-  library.Run(LaunchScript(options, document), {"--quiet"}, ChildOutput::kToStandardError);
+  LibraryRun library(options, frontEnd.Transcript(), console);
+  library.Run(LaunchScript(options, document));
   if (library.WasRefused()) return kRefused;
   const std::optional<ChildEnd> launcher = library.Family().WaitForProgram(kDebugLauncherName);
   // A simulator controller is of no use without its launcher.

@@ -74,13 +74,15 @@ std::string DeviceRunScript(const DeviceRunOptions& options, const Document& doc
          CallForDocument(options.debugs ? "DebugOnDevice" : "TestOnDevice", common, document);
 }
 
-std::vector<std::string> CallArguments(const CommonOptions& options, const Document& document,
-                                       const std::string& script) {
-  std::vector<std::string> arguments = {"evaluate", document.Path().string(), script,
-                                        "--version=" + options.runtimeLevel,
-                                        "--language=" + options.languageCode};
-  if (!options.library.empty()) arguments.push_back("--library=" + options.library.string());
-  if (options.verbose) arguments.push_back("--verbose");
+std::vector<std::string> EvaluateArguments(const EvaluateOptions& options) {
+  const CommonOptions& common = options.common;
+  std::vector<std::string> arguments = {"evaluate", "--inside", "--version=" + common.runtimeLevel,
+                                        "--language=" + common.languageCode};
+  if (!common.library.empty()) arguments.push_back("--library=" + common.library.string());
+  if (!options.device.empty()) arguments.push_back("--device=" + options.device);
+  if (options.quiet) arguments.emplace_back("--quiet");
+  if (common.verbose) arguments.emplace_back("--verbose");
+  arguments.insert(arguments.end(), {"--", common.document.string(), options.script});
   return arguments;
 }
 

@@ -24,8 +24,7 @@ std::string DeviceRunScript(const DeviceRunOptions& options, const Document& doc
 
 /// The arguments with which the command runs a script in a process of its own. The library ends its
 /// whole host when it cannot start a program; what watches over the run has to survive that.
-std::vector<std::string> CallArguments(const CommonOptions& options, const Document& document,
-                                       const std::string& script);
+std::vector<std::string> EvaluateArguments(const EvaluateOptions& options);
 
 /// What to tell of a process that the library ended; empty for an ordinary end.
 std::string UnexpectedEndText(const ChildEnd& end);

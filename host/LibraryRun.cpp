@@ -10,12 +10,9 @@
 
 namespace qutav::host {
 
-LibraryRun::LibraryRun(const CallOptions& options, const Document& document,
-                       std::filesystem::path transcript, Console& console)
-    : options_(options),
-      document_(document),
-      transcript_(std::move(transcript)),
-      console_(console) {}
+LibraryRun::LibraryRun(const CallOptions& options, std::filesystem::path transcript,
+                       Console& console)
+    : options_(options), transcript_(std::move(transcript)), console_(console) {}
 
 void LibraryRun::Show(const nlohmann::json& event) {
   record_.Take(event);
@@ -25,13 +22,26 @@ void LibraryRun::Show(const nlohmann::json& event) {
   if (!progress.empty()) console_.Progress(progress);
 }
 
-void LibraryRun::Run(const std::string& script, const std::vector<std::string>& further,
-                     ChildOutput output) {
-  std::vector<std::string> arguments = CallArguments(options_.common, document_, script);
-  arguments.insert(arguments.end(), further.begin(), further.end());
+void LibraryRun::Run(const std::string& script, const std::string& device) {
+  EvaluateOptions evaluation;
+  evaluation.common = options_.common;
+  evaluation.script = script;
+  evaluation.device = device;
+  evaluation.quiet = true;
+  Run(evaluation, ChildOutput::kToStandardError);
+}
+
+void LibraryRun::Print(const std::string& script) {
+  EvaluateOptions evaluation;
+  evaluation.common = options_.common;
+  evaluation.script = script;
+  Run(evaluation, ChildOutput::kToStandardOutput);
+}
+
+void LibraryRun::Run(const EvaluateOptions& evaluation, ChildOutput output) {
   TranscriptTail tail(transcript_, [this](const nlohmann::json& event) { Show(event); });
   end_ = family_.Run(options_.executable.empty() ? ExecutableFile() : options_.executable,
-                     arguments, output);
+                     EvaluateArguments(evaluation), output);
   tail.Finish();
   console_.EndProgress();
   const std::string unexpected = WasRefused() ? "" : UnexpectedEndText(end_);

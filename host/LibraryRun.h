@@ -2,27 +2,27 @@
 
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "host/CommandLine.h"
 #include "host/Console.h"
-#include "host/Document.h"
 #include "host/ProcessFamily.h"
 #include "host/PublishRecord.h"
 
 namespace qutav::host {
 
 /// A script that calls the library, in a process of its own. What the library shows appears on the
-/// console as it comes. Options, document and console outlive it.
+/// console as it comes. Options and console outlive it.
 class LibraryRun {
  public:
   /// `transcript` is where the library's front end writes.
-  LibraryRun(const CallOptions& options, const Document& document, std::filesystem::path transcript,
-             Console& console);
+  LibraryRun(const CallOptions& options, std::filesystem::path transcript, Console& console);
 
-  /// Runs the script to its end; `further` are options of "evaluate". An end that was not the
-  /// script's own is told.
-  void Run(const std::string& script, const std::vector<std::string>& further, ChildOutput output);
+  /// Runs the script to its end with a device selected, or with the first one where that is empty.
+  /// An end that was not the script's own is told.
+  void Run(const std::string& script, const std::string& device = {});
+
+  /// The same; the script's result is printed.
+  void Print(const std::string& script);
 
   /// The script ran to its end.
   bool Succeeded() const;
@@ -37,10 +37,10 @@ class LibraryRun {
   ProcessFamily& Family() { return family_; }
 
  private:
+  void Run(const EvaluateOptions& evaluation, ChildOutput output);
   void Show(const nlohmann::json& event);
 
   const CallOptions& options_;
-  const Document& document_;
   std::filesystem::path transcript_;
   Console& console_;
   ProcessFamily family_;

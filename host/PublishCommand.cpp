@@ -31,9 +31,8 @@ class PublishRun {
     const auto start = std::chrono::steady_clock::now();
     const std::set<fs::path> folders = PackageFolders(document_);
     const PackageSnapshot before = TakeSnapshot(folders);
-    LibraryRun library(options_, document_, frontEnd.Transcript(), console_);
-    library.Run(PublishScript(options_.common, document_), {"--quiet"},
-                ChildOutput::kToStandardError);
+    LibraryRun library(options_, frontEnd.Transcript(), console_);
+    library.Run(PublishScript(options_.common, document_));
     const Duration duration = std::chrono::steady_clock::now() - start;
     if (library.WasRefused()) return kRefused;
     return Report(library.Record(), PackagesMade(before, TakeSnapshot(folders)), duration);

@@ -2,7 +2,7 @@
 
 import unittest
 
-from harness import PublishTest, run, wait_until
+from harness import BUILD, PublishTest, run, wait_until
 
 
 class Interrupt(PublishTest):
@@ -17,6 +17,21 @@ class Interrupt(PublishTest):
         self.interrupt(publish)
 
         self.assertEqual(list(self.folder.glob("qutav-*")), [])
+
+    def test_a_script_that_is_interrupted_leaves_nothing_running(self):
+        started = self.folder / "started"
+        self.install_tool(f"touch '{started}'\nsleep 1000\n")
+        script = self.folder / "script.json"
+        script.write_text('{"answers": [{"to": "sheet", "press": ["Publish"], "settings":'
+                          ' {"com.tav.moresh.certpath": "k", "com.tav.moresh.certpwd": "p"}}]}',
+                          encoding="utf-8")
+        self.environment["QUTAV_SCRIPT"] = str(script)
+        uris = [path.as_uri() for path in (self.document, self.game / "Game.qmv")]
+        evaluate = self.start(str(BUILD / "qutav"), "evaluate", str(self.document),
+                              f"Publish('{uris[0]}', '{uris[1]}', '26.0')")
+        wait_until(started.exists, "the tool runs")
+
+        self.interrupt(evaluate)
 
     def test_a_hang_up_that_the_caller_ignores_ends_nothing(self):
         go_on = self.folder / "go-on"

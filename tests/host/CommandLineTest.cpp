@@ -67,6 +67,7 @@ TEST(CommandLineTest, EvaluateTakesAScript) {
   const Parsed parsed = Parse({"evaluate", "/g/Game.qud.json", "1 + 1"});
   const auto& options = std::get<EvaluateOptions>(parsed.request);
   EXPECT_EQ(options.script, "1 + 1");
+  EXPECT_FALSE(options.inside);
   EXPECT_EQ(options.common.runtimeLevel, "26.0");
 }
 

@@ -76,13 +76,19 @@ TEST_F(LibraryCallTest, ARunOnAnyDeviceListsThemAndACertificateOpensTheSettings)
 }
 
 TEST_F(LibraryCallTest, ArgumentsCarryTheScriptAndTheOptions) {
-  CommonOptions options;
-  options.runtimeLevel = "26.0";
-  options.languageCode = "ja_JP";
-  options.library = "/lib/a b.so";
-  EXPECT_THAT(CallArguments(options, document_, "1 + 1"),
-              ElementsAre("evaluate", document_.Path().string(), "1 + 1", "--version=26.0",
-                          "--language=ja_JP", "--library=/lib/a b.so"));
+  EvaluateOptions options;
+  options.common.document = "/g/Game.qud.json";
+  options.common.runtimeLevel = "26.0";
+  options.common.languageCode = "ja_JP";
+  options.common.library = "/lib/a b.so";
+  options.common.verbose = true;
+  options.script = "-1";
+  options.device = "R58M";
+  options.quiet = true;
+  EXPECT_THAT(EvaluateArguments(options),
+              ElementsAre("evaluate", "--inside", "--version=26.0", "--language=ja_JP",
+                          "--library=/lib/a b.so", "--device=R58M", "--quiet", "--verbose", "--",
+                          "/g/Game.qud.json", "-1"));
 }
 
 TEST_F(LibraryCallTest, OrdinaryEndsAreNotTold) {

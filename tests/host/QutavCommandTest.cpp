@@ -80,6 +80,18 @@ TEST_F(QutavCommandTest, EvaluateTellsAScriptThatThrows) {
   EXPECT_THAT(folder_.Read("error"), HasSubstr("ReferenceError"));
 }
 
+TEST_F(QutavCommandTest, EvaluateSurvivesALibraryThatCrashes) {
+  const std::string document = Document(R"("exercise.play": "crash")");
+  EXPECT_EQ(Run({"evaluate", document, "--library", EXERCISE_LIBRARY, "Publish(\"\", \"\", \"\")"}),
+            1);
+  EXPECT_EQ(folder_.Read("error"), "The library was ended by signal 6.\n");
+}
+
+TEST_F(QutavCommandTest, EvaluateTakesAScriptThatBeginsLikeAnOption) {
+  EXPECT_EQ(Run({"evaluate", "--library", EXERCISE_LIBRARY, "--", Document(""), "-1"}), 0);
+  EXPECT_EQ(folder_.Read("out"), "-1\n");
+}
+
 TEST_F(QutavCommandTest, LibraryThatCannotBeLoadedGivesTwo) {
   EXPECT_EQ(Run({"evaluate", Document(""), "--library", "/gone/a.so", "1"}), 2);
   EXPECT_THAT(folder_.Read("error"), HasSubstr("the library cannot be loaded"));

@@ -1,0 +1,129 @@
+"""The list of devices, and a publish that goes on to several of them."""
+
+import json
+import unittest
+
+from harness import DeviceTest, run, wait_until
+
+UNREACHABLE = "Unable to install the application. Ensure that the selected devices are connected."
+NOT_CONNECTED = "Connection failure! Ensure that all selected devices are connected."
+MADE = "APK file has been created."
+
+
+class Devices(DeviceTest):
+    def devices(self):
+        return run(*self.command("devices"), env=self.environment, timeout=60)
+
+    def test_every_device_is_listed_whatever_its_state(self):
+        devices = [self.farm.add("one"), self.farm.add("two", state="offline"),
+                   self.farm.add("three", state="unauthorized")]
+
+        result = self.devices()
+
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertCountEqual(result.stdout.splitlines(), [device.serial for device in devices])
+
+    def test_without_a_device_nothing_is_listed(self):
+        result = self.devices()
+
+        self.assertEqual((result.returncode, result.stdout), (1, ""))
+        self.assertEqual(result.stderr, "No device is connected.\n")
+
+    def test_the_server_that_a_listing_starts_stays_up(self):
+        self.farm.adb("kill-server")
+        wait_until(lambda: not self.farm.server_processes(), "the server has ended")
+
+        self.devices()
+
+        self.assertEqual(len(self.farm.server_processes()), 1)
+
+    def test_an_sdk_without_adb_ends_the_listing_with_a_message(self):
+        self.set_data("com.tav.sdk.path", str(self.folder / "no-sdk"))
+
+        result = self.devices()
+
+        self.assertEqual((result.returncode, result.stdout), (1, ""))
+        self.assertIn("Error: CreateWinProcess failed with error 2: ", result.stderr)
+        self.assertIn("The library ended its host with code 2.\n", result.stderr)
+
+
+class SeveralDevices(DeviceTest):
+    """One publish that goes on to several devices."""
+
+    def script_for(self, devices, *answers):
+        script = self.folder / "script.json"
+        sheet = {"to": "sheet", "press": ["Publish", "Cancel"],
+                 "settings": {"com.tav.moresh.certpath": str(self.keystore),
+                              "com.tav.moresh.certpwd": {"environment": "SAMPLE_PASSWORD"},
+                              "com.tav.pelund.adbopt": "launch",
+                              "ipa.install.devices":
+                                  "".join(device.serial + ":" for device in devices)}}
+        script.write_text(json.dumps({"answers": [*answers, sheet]}), encoding="utf-8")
+        return script
+
+    def publish_to(self, *devices):
+        return self.publish("--script", self.script_for(devices))
+
+    def test_each_receives_the_very_package_and_starts_it(self):
+        devices = [self.farm.add(name) for name in ("one", "two", "three")]
+
+        result = self.publish_to(*devices)
+
+        self.assertEqual(self.messages(), [MADE], result.stderr)
+        for device in devices:
+            self.assert_served(device)
+
+    def test_one_that_fails_in_the_middle_leaves_the_others_served_and_one_block(self):
+        first, last = self.farm.add("one"), self.farm.add("three")
+        for name, options, error in (
+                ("leaves", {"leave_at": "install"}, UNREACHABLE),
+                ("refuses", {"refuse_install": "INSTALL_FAILED_OLDER_SDK"},
+                 "The device has encountered an unexpected error. ")):
+            with self.subTest(name):
+                self.transcript.unlink(missing_ok=True)
+                broken = self.farm.add(name, **options)
+
+                self.publish_to(first, broken, last)
+
+                self.assertEqual(len(self.messages()), 1)
+                text = self.messages()[0]
+                self.assertTrue(text.startswith(f"Device Serial Number{broken.serial} : {error}"),
+                                text)
+                self.assertEqual(text.count("Device Serial Number"), 1)
+                for device in (first, last):
+                    self.assertTrue(device.events("launch")[-1]["started"])
+                self.assertEqual(first.events("install")[-1]["sha256"],
+                                 last.events("install")[-1]["sha256"])
+
+    def test_one_that_is_unplugged_stops_the_publish_before_packaging(self):
+        here, gone = self.farm.add("one"), self.farm.add("two")
+        gone.pull_out()
+
+        result = self.publish_to(here, gone)
+
+        self.assert_refused(result, NOT_CONNECTED)
+        self.assert_untouched(here)
+
+    def test_a_cancel_between_two_leaves_the_second_alone(self):
+        first, second = self.farm.add("one", hold_at="install"), self.farm.add("two")
+        gate = self.folder / "gate"
+        self.environment["QUTAV_TICK_GATE"] = str(gate)
+        script = self.script_for((first, second), {"to": "dialog", "class": "CProgressDlg",
+                                                   "after": 1, "press": "Cancel"})
+        process = self.start(*self.command("publish", "--script", script))
+        first.wait_for("held")
+
+        gate.touch()
+        wait_until(lambda: "closed" in [event["event"] for event in self.events()],
+                   "the dialog is closed")
+        first.release()
+        _, error = process.communicate(timeout=60)
+
+        self.assertEqual(process.returncode, 1, error)
+        self.assertEqual(self.messages(), [])
+        self.assertEqual(first.events("install")[0]["answer"], "Success")
+        self.assert_untouched(second)
+
+
+if __name__ == "__main__":
+    unittest.main()
