@@ -36,7 +36,7 @@ class Launch(PublishTest):
 
     def install_host(self, *, controller=True):
         """The command with its library and SDK in a folder of the test's own."""
-        host = self.folder / "host"
+        host = self.folder / "Authoring Host"
         host.mkdir()
         for name in ("qutav", "QuTavAndroidExt.so"):
             shutil.copy(BUILD / name, host)
@@ -107,6 +107,16 @@ class Launch(PublishTest):
         self.assertEqual(launch["profile"], "mobileDevice")
         self.assertEqual(launch["screenSize"], "480x800:480x800")
         self.assertNotIn("simulatorPort", launch)
+
+    def test_a_controller_below_a_folder_with_a_blank_is_found_and_started(self):
+        host = self.install_host()
+        _, *arguments = self.command("test", "--profile", "mobileDevice")
+
+        result = run(host / "qutav", *arguments, env=self.environment, timeout=60)
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(len(self.launches("SimController")), 1)
+        self.assertEqual(self.launches("wep")[0]["simulatorPort"], "7836")
 
     def test_the_controller_goes_with_the_launcher(self):
         self.stay()

@@ -182,6 +182,23 @@ TEST_F(PosixProcessesTest, AProgramIsFoundByItsWindowsFormPath) {
   EXPECT_EQ(RunProcess(u"\"" + folder.Path("\xE3\x81\x82 child") + u"\" exit 7", true, output), 7);
 }
 
+TEST_F(PosixProcessesTest, AnUnquotedProgramMayHaveBlanksInItsName) {
+  const TemporaryFolder folder;
+  fs::copy_file(FAKE_CHILD, folder.Native("my own child"));
+
+  EXPECT_EQ(RunProcess(folder.Path("my own child") + u"  print a \"b c\"", true, output), 0);
+
+  EXPECT_EQ(output, u"ab c");
+}
+
+TEST_F(PosixProcessesTest, TheShortestUnquotedNameOfAProgramIsTaken) {
+  const TemporaryFolder folder;
+  fs::copy_file(FAKE_CHILD, folder.Native("child"));
+  folder.Put("child exit", "another file");
+
+  EXPECT_EQ(RunProcess(folder.Path("child") + u" exit 7", true, output), 7);
+}
+
 TEST_F(PosixProcessesTest, AProgramWithoutAFolderIsFoundThroughThePath) {
   const EnvironmentVariable path("PATH", fs::path(FAKE_CHILD).parent_path().string());
 

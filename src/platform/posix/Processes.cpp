@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <mutex>
 #include <system_error>
 #include <utility>
@@ -151,6 +152,22 @@ void CarryOutTaskkill(const std::vector<std::u16string>& arguments) {
   }
 }
 
+// As on Windows, the name of a program may hold blanks without being quoted: the shortest beginning
+// of the line that is a file is meant.
+std::u16string WithQuotedProgram(const std::u16string& line) {
+  if (line.starts_with(u'"')) return line;
+  std::error_code unreadable;
+  for (std::size_t blank = line.find(u' '); blank != line.npos;
+       blank = line.find(u' ', blank + 1)) {
+    const std::u16string name = line.substr(0, blank);
+    if (name.find_first_of(u"/\\") == name.npos) continue;
+    if (std::filesystem::is_regular_file(NativePath(name), unreadable)) {
+      return u"\"" + name + u"\"" + line.substr(blank);
+    }
+  }
+  return line;
+}
+
 std::vector<std::string> NativeArguments(const std::vector<std::u16string>& arguments) {
   std::vector<std::string> native{NativePath(arguments.front())};
   std::transform(arguments.begin() + 1, arguments.end(), std::back_inserter(native),
@@ -206,7 +223,7 @@ class PosixProcesses final : public Processes {
   std::unique_ptr<ChildProcess> Start(const std::u16string& commandLine,
                                       OutputPipe* output) override {
     TheOrphans().Collect();
-    const std::vector<std::u16string> arguments = SplitCommandLine(commandLine);
+    const std::vector<std::u16string> arguments = SplitCommandLine(WithQuotedProgram(commandLine));
     if (arguments.front() == u"taskkill") {
       CarryOutTaskkill(arguments);
       return std::make_unique<EndedChild>();
