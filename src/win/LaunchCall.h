@@ -10,8 +10,8 @@
 
 namespace qutav {
 
-/// The profile that a script asks for; nothing when it names none. An empty text is not the same: it
-/// is passed on as it stands.
+/// The profile that a script asks for; nothing when it names none. An empty text is not the same:
+/// it is passed on as it stands.
 using CommandProfileText = std::optional<std::u16string>;
 
 /// One launch through the host.
