@@ -1,6 +1,7 @@
 """What the end-to-end tests share: a copy of the sample document, real Java, a keystore, and runs of
 the host command."""
 
+import contextlib
 import hashlib
 import json
 import os
@@ -77,6 +78,9 @@ class PublishTest(unittest.TestCase):
         self.install_java(java_home())
 
     def tearDown(self):
+        # One that was killed takes a moment to go on a busy machine.
+        with contextlib.suppress(TimeoutError):
+            wait_until(lambda: not processes_of(self.folder), "all children have ended")
         self.assertEqual(processes_of(self.folder), [], "a child process stayed behind")
 
     def install_java(self, home):
