@@ -29,14 +29,6 @@ class Devices(DeviceTest):
         self.assertEqual((result.returncode, result.stdout), (1, ""))
         self.assertEqual(result.stderr, "No device is connected.\n")
 
-    def test_the_server_that_a_listing_starts_stays_up(self):
-        self.farm.adb("kill-server")
-        wait_until(lambda: not self.farm.server_processes(), "the server has ended")
-
-        self.devices()
-
-        self.assertEqual(len(self.farm.server_processes()), 1)
-
     def test_an_sdk_without_adb_ends_the_listing_with_a_message(self):
         self.set_data("com.tav.sdk.path", str(self.folder / "no-sdk"))
 
