@@ -80,8 +80,8 @@ void CDialog::Dispatch(const std::function<void()>& event) {
   ShowWarning(Message(messages::kUnknownError) + detail);
 }
 
-void CDialog::GiveTexts(Control& control, std::u16string label, std::uint32_t captionId) {
-  control.label = std::move(label);
+void CDialog::GiveTexts(Control& control, const std::u16string& label, std::uint32_t captionId) {
+  control.label = label;
   control.captionId = captionId;
   (IsField(control) ? control.caption : control.text) = CatalogueText(captionId);
 }

@@ -68,13 +68,13 @@ class CDialog {
 
   /// Appends a control. Its caption, of that id, stands in it or, for a field, beside it.
   template <typename Kind>
-  Kind& Add(std::u16string label, std::uint32_t captionId = 0) {
-    return Insert<Kind>(controls_.size(), std::move(label), captionId);
+  Kind& Add(const std::u16string& label, std::uint32_t captionId = 0) {
+    return Insert<Kind>(controls_.size(), label, captionId);
   }
   /// The same, behind another control in tab order.
   template <typename Kind>
-  Kind& AddAfter(const Control& other, std::u16string label, std::uint32_t captionId = 0) {
-    return Insert<Kind>(IndexOf(other) + 1, std::move(label), captionId);
+  Kind& AddAfter(const Control& other, const std::u16string& label, std::uint32_t captionId = 0) {
+    return Insert<Kind>(IndexOf(other) + 1, label, captionId);
   }
   void Remove(const Control& control);
 
@@ -86,14 +86,14 @@ class CDialog {
 
  private:
   template <typename Kind>
-  Kind& Insert(std::size_t index, std::u16string label, std::uint32_t captionId) {
+  Kind& Insert(std::size_t index, const std::u16string& label, std::uint32_t captionId) {
     auto control = std::make_unique<Kind>();
     Kind& added = *control;
-    GiveTexts(added, std::move(label), captionId);
+    GiveTexts(added, label, captionId);
     controls_.insert(controls_.begin() + static_cast<std::ptrdiff_t>(index), std::move(control));
     return added;
   }
-  static void GiveTexts(Control& control, std::u16string label, std::uint32_t captionId);
+  static void GiveTexts(Control& control, const std::u16string& label, std::uint32_t captionId);
   std::size_t IndexOf(const Control& control) const;
 
   std::u16string className_;

@@ -13,17 +13,17 @@ inline constexpr std::uint32_t kPageUsesCallback = 0x80;
 
 class CPropertyPage : public CDialog {
  public:
-  /// `label` is the English text on the page's tab, by which scripts turn to it; `titleId` is the
-  /// catalogue's id of that text.
-  CPropertyPage(std::u16string className, std::u16string label, std::uint32_t titleId)
-      : CDialog(std::move(className), titleId, nullptr), label_(std::move(label)) {}
+  /// `englishTitle` is the English text on the page's tab, by which scripts turn to it; `titleId`
+  /// is the catalogue's id of that text.
+  CPropertyPage(std::u16string className, std::u16string englishTitle, std::uint32_t titleId)
+      : CDialog(std::move(className), titleId, nullptr), englishTitle_(std::move(englishTitle)) {}
 
-  const std::u16string& Label() const { return label_; }
+  const std::u16string& EnglishTitle() const { return englishTitle_; }
 
   std::uint32_t flags = 0;
 
  private:
-  std::u16string label_;
+  std::u16string englishTitle_;
 };
 
 }  // namespace qutav

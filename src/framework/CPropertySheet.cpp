@@ -17,8 +17,9 @@ CPropertySheet::CPropertySheet(std::u16string className, std::uint32_t titleId, 
   AddCommand(u"Help", texts::kSheetHelp, kIdHelp).onClick = [this] { OnHelp(); };
 }
 
-Button& CPropertySheet::AddCommand(std::u16string label, std::uint32_t captionId, int commandId) {
-  auto& button = Add<Button>(std::move(label), captionId);
+Button& CPropertySheet::AddCommand(const std::u16string& label, std::uint32_t captionId,
+                                   int commandId) {
+  auto& button = Add<Button>(label, captionId);
   button.commandId = commandId;
   return button;
 }
@@ -41,13 +42,14 @@ void CPropertySheet::SetActivePage(int index) {
 
 void CPropertySheet::ShowActivePage() {
   CPropertyPage& page = *pages_[static_cast<std::size_t>(activePage_)];
-  if (!page.IsCreated()) page.Create();
+  // A page that cannot load itself is shown as far as it came.
+  if (!page.IsCreated()) Dispatch([&] { page.Create(); });
   window_->ShowPage(activePage_);
 }
 
 bool CPropertySheet::OnInitDialog() {
   shown_ = true;
-  if (!pages_.empty()) ShowActivePage();
+  SetActivePage(activePage_);
   return CDialog::OnInitDialog();
 }
 

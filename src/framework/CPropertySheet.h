@@ -44,10 +44,6 @@ class CPropertySheet : public CDialog {
   void Attach(SheetWindow* window) { window_ = window; }
   void Destroy() override;
 
-  /// Values that a script gives before it presses a button.
-  virtual void PutSetting(const std::u16string& key, const std::u16string& value) = 0;
-  virtual void PutRegistryValue(const std::u16string& name, const std::u16string& value) = 0;
-
   /// The command of the Help button.
   virtual void OnHelp() {}
   virtual void OnVScroll(ScrollCode, int /*thumbPosition*/) {}
@@ -61,7 +57,7 @@ class CPropertySheet : public CDialog {
   Button* GetButton(int commandId) const;
 
  private:
-  Button& AddCommand(std::u16string label, std::uint32_t captionId, int commandId);
+  Button& AddCommand(const std::u16string& label, std::uint32_t captionId, int commandId);
   void ShowActivePage();
 
   std::vector<CPropertyPage*> pages_;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "descriptor/DescriptorDocument.h"
+#include "platform/Services.h"
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
 #include "settings_ui/FileTypeDlg.h"
@@ -14,8 +15,11 @@
 namespace qutav {
 namespace {
 
-// --- Rows of the list
-// -----------------------------------------------------------------------------
+bool RunFileTypeDialog(FileTypeRecord& type) {
+  return CFileTypeDlg(TheServices().frontEnd->FocusWindow(), type).DoModal() == kIdOk;
+}
+
+// --- Rows of the list ---------------------------------------------------------------------------
 
 std::u16string Placeholder() { return u"<" + Message(messages::kNone) + u">"; }
 
@@ -35,8 +39,7 @@ std::u16string ExtensionOfRow(const std::u16string& row) {
   return extension;
 }
 
-// --- Fields of the descriptor
-// ---------------------------------------------------------------------
+// --- Fields of the descriptor -------------------------------------------------------------------
 
 bool AllDigits(std::u16string_view text) {
   return std::all_of(text.begin(), text.end(),
@@ -198,7 +201,7 @@ void CAdvancedSettingsDlg::EnableSizeLimits(bool enabled) {
 
 void CAdvancedSettingsDlg::AddFileType() {
   FileTypeRecord type;
-  if (CFileTypeDlg(Parent(), type).DoModal() != kIdOk) return;
+  if (!RunFileTypeDialog(type)) return;
   if (type.name.empty() || type.extension.empty()) return;
   type.storedName = type.name;
   fileTypes[FromLocalCodePage(type.name)] = type;
@@ -215,7 +218,7 @@ void CAdvancedSettingsDlg::EditFileType() {
   const std::u16string name = NameOfRow(row);
   FileTypeRecord type = fileTypes[name];
   if (type.name.empty()) return;
-  if (CFileTypeDlg(Parent(), type).DoModal() != kIdOk) return;
+  if (!RunFileTypeDialog(type)) return;
   const std::u16string newName = FromLocalCodePage(type.name);
   if (newName != name || FromLocalCodePage(type.extension) != ExtensionOfRow(row)) {
     types_->DeleteString(selected);

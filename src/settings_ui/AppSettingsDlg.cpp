@@ -107,13 +107,13 @@ CAppSettingsDlg::CAppSettingsDlg()
   appName_ = &Add<Edit>(u"App name:", texts::kDesktopAppName);
   version_ = &Add<Edit>(u"Version:", texts::kDesktopVersion);
   appId_ = &Add<Edit>(u"App ID:", texts::kDesktopAppId);
-  Add<qutav::Label>(u"Example: com.yourdomain.appname", texts::kDesktopIdExample);
+  Add<Label>(u"Example: com.yourdomain.appname", texts::kDesktopIdExample);
   description_ = &Add<Edit>(u"Description:", texts::kDesktopDescription);
   description_->style = EditStyle::kMultiLine;
   copyright_ = &Add<Edit>(u"Copyright:", texts::kDesktopCopyright);
   windowStyle_ = &Add<ComboBox>(u"Window style:", texts::kDesktopWindowStyle);
   windowStyle_->style = ComboStyle::kDropList;
-  Add<qutav::Label>(u"Profiles:", texts::kDesktopProfiles);
+  Add<Label>(u"Profiles:", texts::kDesktopProfiles);
   profiles_ = {&Add<CheckBox>(u"Desktop", texts::kDesktopProfileDesktop),
                &Add<CheckBox>(u"Mobile Device", texts::kDesktopProfileMobile),
                &Add<CheckBox>(u"Extended Desktop", texts::kDesktopProfileExtended),

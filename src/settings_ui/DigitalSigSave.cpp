@@ -47,7 +47,7 @@ int CDigitalSigDlg::SaveToSettings(bool validate) {
 
 int CDigitalSigDlg::SaveCertificate(bool validate) {
   const std::u16string& path = certificate_->text;
-  if (validate && path.empty()) return Refuse(messages::kCertificateRequired, kIncomplete);
+  if (validate && path.empty()) return Refuse(messages::kCertificateNotChosen, kIncomplete);
   if (validate && !TheServices().files->Exists(path)) {
     return Refuse(messages::kCertificateMissing, kFileMissing);
   }

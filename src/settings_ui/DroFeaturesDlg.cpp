@@ -3,8 +3,7 @@
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
 #include "settings_ui/FeatureFile.h"
-#include "win/DocumentPaths.h"
-#include "win/HostEnvironment.h"
+#include "support/HostConfiguration.h"
 #include "win/InterfaceLanguage.h"
 #include "win/MessageIds.h"
 #include "win/SettingsKeys.h"
@@ -12,14 +11,6 @@
 
 namespace qutav {
 namespace {
-
-constexpr char16_t kFeaturesFile[] = u"\\configuration\\Android\\Features.xml";
-
-// Each interface language has a file of its own.
-std::u16string FeaturesPath() {
-  return ReplaceAll(DocumentPaths.LaunchPath, u"/", u"\\") +
-         HostLanguageCode(HostContext).value_or(u"") + kFeaturesFile;
-}
 
 bool IsManualMode() {
   return EqualsIgnoringCase(SettingsGet(keys::kIgnoreManifestAdditions), u"true");
@@ -36,8 +27,8 @@ CDroFeaturesDlg::CDroFeaturesDlg()
       manual_(&Add<CheckBox>(u"Manually manage permissions and manifest additions in the "
                              u"application descriptor file",
                              texts::kPermissionsManual)) {
-  Add<qutav::Label>(u"Select the permissions below that will be required in your application:",
-                    texts::kPermissionsInvitation);
+  Add<Label>(u"Select the permissions below that will be required in your application:",
+             texts::kPermissionsInvitation);
   list_ = &Add<CheckList>(u"Permission Name", messages::kPermissionName);
   list_->fullRowSelect = true;
   description_ = &Add<Edit>(u"Description:", texts::kPermissionsDescription);
@@ -54,7 +45,7 @@ int CDroFeaturesDlg::InitFeatureParser() {
 bool CDroFeaturesDlg::ReadFeatures() {
   FeatureNames.clear();
   FeatureDescriptions.clear();
-  if (FeatureParser.ParseFile(FeaturesPath()) != 0) return false;
+  if (FeatureParser.ParseFile(HostConfigurationFile(u"Features.xml")) != 0) return false;
   const auto features = ReadFeatureRows(*FeatureParser.Document());
   if (!features) return false;
   for (const Feature& feature : *features) {

@@ -14,16 +14,13 @@ std::u16string RootContentFolder() { return WithBackslashes(SettingsGet(keys::kM
 
 std::optional<std::u16string> ChooseIconFile() {
   FileDialogRequest request;
+  request.owner = TheServices().frontEnd->FocusWindow();
   request.filter = Message(messages::kImageFile) + u" (*.png)|*.png||";
   return TheServices().frontEnd->ChooseFile(request);
 }
 
 bool IsBelowRoot(const std::u16string& path, const std::u16string& rootFolder) {
   return path.find(rootFolder) != path.npos;
-}
-
-std::u16string MakeRelative(const std::u16string& path, const std::u16string& rootFolder) {
-  return IsBelowRoot(path, rootFolder) ? path.substr(rootFolder.size()) : path;
 }
 
 bool AskToCopyIcon() { return AskQuestion(Message(messages::kIconMustBeCopied)); }

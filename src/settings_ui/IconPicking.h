@@ -16,10 +16,6 @@ std::optional<std::u16string> ChooseIconFile();
 /// case, at any position.
 bool IsBelowRoot(const std::u16string& path, const std::u16string& rootFolder);
 
-/// The end of a path below the root folder, shorter than the path by the folder's length; any other
-/// path as it stands.
-std::u16string MakeRelative(const std::u16string& path, const std::u16string& rootFolder);
-
 /// Asks whether an icon from elsewhere may be copied below the root folder.
 bool AskToCopyIcon();
 

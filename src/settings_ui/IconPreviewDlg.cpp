@@ -47,7 +47,7 @@ CIconPreviewDlg::CIconPreviewDlg()
     : CPropertyPage(u"CIconPreviewDlg", u"Icons", texts::kIconsTitle) {
   sizes_ = &Add<ListBox>(u"Icon sizes:", texts::kIconsSizes);
   sizes_->onSelectionChange = [this] { ShowSelectedIcon(); };
-  sizeLabel_ = &Add<qutav::Label>(u"36x36", texts::kIconsFirstSize);
+  sizeLabel_ = &Add<Label>(u"36x36", texts::kIconsFirstSize);
   path_ = &Add<Edit>(u"Icon path:", texts::kIconsPath);
   path_->style = EditStyle::kReadOnly;
   auto& browse = Add<CStretchBitmapButton>(u"Browse icon", texts::kIconsBrowse);

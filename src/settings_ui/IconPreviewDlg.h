@@ -43,7 +43,7 @@ class CIconPreviewDlg : public CPropertyPage {
   std::u16string RelativePathOf(const std::u16string& file) const;
 
   ListBox* sizes_ = nullptr;
-  qutav::Label* sizeLabel_ = nullptr;
+  Label* sizeLabel_ = nullptr;
   Edit* path_ = nullptr;
   Picture* preview_ = nullptr;
   HoverButtons hover_;

@@ -99,9 +99,9 @@ CIpaSettingsDlg::CIpaSettingsDlg()
   AddImageButton(u"Browse output file", texts::kMobileBrowse, ButtonImage::kBrowse,
                  &CIpaSettingsDlg::BrowseOutput);
   appName_ = &Add<Edit>(u"App name:", texts::kMobileAppName);
-  Add<qutav::Label>(u"tav.", texts::kMobileIdPrefix);
+  Add<Label>(u"tav.", texts::kMobileIdPrefix);
   appId_ = &Add<Edit>(u"App ID:", texts::kMobileAppId);
-  Add<qutav::Label>(u"Example: com.yourdomain.appname", texts::kMobileIdExample);
+  Add<Label>(u"Example: com.yourdomain.appname", texts::kMobileIdExample);
   version_ = &Add<Edit>(u"Version:", texts::kMobileVersion);
   versionLabel_ = &Add<Edit>(u"Version label:", texts::kMobileVersionLabel);
   aspectRatio_ = &Add<ComboBox>(u"Aspect ratio:", texts::kMobileAspectRatio);
@@ -110,7 +110,7 @@ CIpaSettingsDlg::CIpaSettingsDlg()
   autoOrientation_ = &Add<CheckBox>(u"Auto orientation", texts::kMobileAutoOrientation);
   renderMode_ = &Add<ComboBox>(u"Render mode:", texts::kMobileRenderMode);
   renderMode_->style = ComboStyle::kDropList;
-  Add<qutav::Label>(u"Processor:", texts::kMobileProcessor);
+  Add<Label>(u"Processor:", texts::kMobileProcessor);
   AddProcessor(u" ARMv7 (32 bit)", texts::kMobileArmV7);
   AddProcessor(u" Intel x86 (32 bit)", texts::kMobileIntel);
   AddProcessor(u" ARMv8 (64 bit)", texts::kMobileArmV8);

@@ -67,8 +67,8 @@ std::vector<std::u16string> SplitAtBlanks(const std::u16string& text) {
 
 CLanguagesDlg::CLanguagesDlg()
     : CPropertyPage(u"CLanguagesDlg", u"Languages", texts::kLanguagesTitle) {
-  Add<qutav::Label>(u"Select the languages below that will be supported in your application:",
-                    texts::kLanguagesInvitation);
+  Add<Label>(u"Select the languages below that will be supported in your application:",
+             texts::kLanguagesInvitation);
   list_ = &Add<CheckList>(u"Supported Languages", messages::kSupportedLanguages);
   list_->fullRowSelect = true;
 }

@@ -54,11 +54,9 @@ std::u16string CoveredApplicationId(const std::u16string& identifier,
                                     const std::u16string& applicationId) {
   if (identifier == u"*") return applicationId;
   if (identifier.find(u'*') == identifier.npos) return identifier;
-  // The asterisk is expected at the end, without a look.
+  // The asterisk is expected at the end, without a look. An App ID that begins with all that stands
+  // before it comes out as it was.
   const std::u16string stem = identifier.substr(0, identifier.size() - 1);
-  if (applicationId.size() > identifier.size() && applicationId.starts_with(stem)) {
-    return applicationId;
-  }
   return stem + applicationId.substr(CommonLength(stem, applicationId));
 }
 

@@ -1,11 +1,14 @@
 #include "settings_ui/SettingsSheet.h"
 
-#include "descriptor/DescriptorDocument.h"
+#include <vector>
+
 #include "framework/MessageBoxes.h"
 #include "packaging/DocumentDescriptor.h"
 #include "packaging/PublishDriver.h"
 #include "platform/Services.h"
-#include "settings_ui/DialogTexts.h"
+#include "settings_ui/SettingsPages.h"
+#include "settings_ui/SignaturePasswordDlg.h"
+#include "support/HelpLinks.h"
 #include "support/Paths.h"
 #include "support/RegistryStore.h"
 #include "win/InterfaceLanguage.h"
@@ -14,51 +17,186 @@
 #include "win/SettingsMap.h"
 
 namespace qutav {
+namespace {
 
-CSettingsPropSheet::CSettingsPropSheet(bool ios, int startPage)
-    : CPropertySheet(u"CSettingsPropSheet",
-                     ios ? messages::kIosSettingsTitle : messages::kAndroidSettingsTitle,
-                     startPage),
-      ios_(ios) {
-  Add<Button>(u"Publish", messages::kPublishButton).onClick = [this] { SheetPublish(); };
-}
+constexpr int kDeploymentPage = 1;
+constexpr int kPublishCommand = 8085;
+constexpr int kPublishWidening = 5;  // on either side
 
-void CSettingsPropSheet::PutSetting(const std::u16string& key, const std::u16string& value) {
-  changed_ = changed_ || !SettingsEquals(key, value);
-  SettingsSet(key, value);
-}
+bool IsIosForm() { return SettingsEquals(keys::kPublishIpa, u"true"); }
 
-void CSettingsPropSheet::PutRegistryValue(const std::u16string& name, const std::u16string& value) {
-  SetRegistryString(name, value);
-}
-
-void CSettingsPropSheet::OnOK() {
-  SettingsSet(keys::kExitOk, changed_ ? u"true" : u"false");
-  EndDialog(kIdOk);
-}
-
-// The sheet stays open, whatever comes of it.
-void CSettingsPropSheet::SheetPublish() {
-  if (CommonJavaPath().empty()) {
-    ShowWarning(Message(messages::kJavaMissing));
-    return;
-  }
-  if (ios_ && !CheckIosPackager()) return;
-  PublishDriver(ios_ ? PublishTargetIpa : PublishTargetApk, true);
-}
-
-bool CSettingsPropSheet::CheckIosPackager() const {
+bool CheckIosPackager() {
   if (TheServices().files->Exists(SettingsGet(keys::kLaunchPath) + u"DRN/lib/drn.jar")) return true;
   ShowInformation(Message(messages::kIosFilesNotInstalled));
   return false;
 }
 
+}  // namespace
+
+CSettingsPropSheet::CSettingsPropSheet(std::uint32_t titleId)
+    : CPropertySheet(u"CSettingsPropSheet", titleId, 0) {}
+
+void CSettingsPropSheet::AddPages(SettingsPages& pages, bool ios) {
+  settingsPages_ = &pages;
+  const std::vector<CPropertyPage*> android = {&pages.general, &pages.androidDeployment,
+                                               &pages.icons, &pages.permissions, &pages.languages};
+  const std::vector<CPropertyPage*> iphone = {&pages.general, &pages.iosDeployment, &pages.icons,
+                                              &pages.languages};
+  for (CPropertyPage* page : ios ? iphone : android) AddPage(*page);
+}
+
+bool CSettingsPropSheet::OnInitDialog() {
+  CPropertySheet::OnInitDialog();
+  MendHelpButton();
+  PutPublishInPlaceOfApply();
+  SetupScrolling(Window());
+  return true;
+}
+
+// Some Italian systems label the button with nothing but a question mark.
+void CSettingsPropSheet::MendHelpButton() {
+  Button* help = GetButton(kIdHelp);
+  if (help->text == u"?") help->text = u"Aiuto";
+}
+
+void CSettingsPropSheet::PutPublishInPlaceOfApply() {
+  Rectangle place = Window().ButtonRectangle(kIdApply);
+  place.left -= kPublishWidening;
+  place.right += kPublishWidening;
+  Remove(*GetButton(kIdApply));
+  auto& publish = AddAfter<Button>(*GetButton(kIdCancel), u"Publish", messages::kPublishButton);
+  publish.commandId = kPublishCommand;
+  publish.place = place;
+  publish.onClick = [this] { SheetPublish(); };
+}
+
+void CSettingsPropSheet::OnVScroll(ScrollCode code, int thumbPosition) {
+  ScrollByBar(Window(), code, thumbPosition);
+}
+
+bool CSettingsPropSheet::OnMouseWheel(int zDelta) {
+  ScrollByWheel(Window(), zDelta);
+  return true;
+}
+
+void CSettingsPropSheet::SheetOk() {
+  bool reported = false;
+  if (!(IsIosForm() ? StoreIosPages(reported) : StoreAndroidPages(reported))) return;
+  SettingsSet(keys::kExitOk, reported ? u"true" : u"false");
+  EndDialog(kIdOk);
+}
+
+bool CSettingsPropSheet::StoreAndroidPages(bool& reported) {
+  CDigitalSigDlg& deployment = settingsPages_->androidDeployment;
+  if (deployment.initialised) {
+    deployment.SaveToSettings(false);
+    reported = reported || deployment.changed;
+  }
+  settingsPages_->permissions.SavePermissions();
+  reported = reported || settingsPages_->permissions.changed;
+  if (settingsPages_->languages.initialised) settingsPages_->languages.SaveLanguages();
+  return StoreGeneralPage(reported);
+}
+
+// The languages are not stored here: on this form they reach the descriptor through Publish alone.
+bool CSettingsPropSheet::StoreIosPages(bool& reported) {
+  CVolDeployDlg& deployment = settingsPages_->iosDeployment;
+  if (deployment.initialised) {
+    deployment.SaveToSettings(false);
+    reported = reported || deployment.changed;
+  }
+  return StoreGeneralPage(reported);
+}
+
+// The last to be stored, as it writes the file; false when it refused. Icons went into the document
+// when they were chosen.
+bool CSettingsPropSheet::StoreGeneralPage(bool& reported) {
+  CIpaSettingsDlg& general = settingsPages_->general;
+  if (general.initialised) {
+    if (general.StoreToDescriptor() != 0) return false;
+    reported = reported || general.changed;
+  }
+  const CIconPreviewDlg& icons = settingsPages_->icons;
+  reported = reported || (icons.initialised && icons.IsIconChanged());
+  return true;
+}
+
+void CSettingsPropSheet::SheetPublish() {
+  const bool ios = IsIosForm();
+  if (CommonJavaPath().empty()) {
+    ShowWarning(Message(messages::kJavaMissing));
+    return;
+  }
+  if (ios) {
+    PublishIos();
+  } else {
+    PublishAndroid();
+  }
+}
+
+void CSettingsPropSheet::PublishAndroid() {
+  settingsPages_->permissions.SavePermissions();
+  if (settingsPages_->languages.initialised) settingsPages_->languages.SaveLanguages();
+  if (!ValidateDeployment(settingsPages_->androidDeployment)) return;
+  if (!StoreGeneralPageOrDocument() || !HasSigningMaterial()) return;
+  PublishDriver(PublishTargetApk, true);
+  settingsPages_->androidDeployment.FillDeviceList(false);
+}
+
+void CSettingsPropSheet::PublishIos() {
+  if (!CheckIosPackager()) return;
+  if (!ValidateDeployment(settingsPages_->iosDeployment)) return;
+  if (settingsPages_->languages.initialised) settingsPages_->languages.SaveLanguages();
+  CIpaSettingsDlg& general = settingsPages_->general;
+  if (general.initialised && general.StoreToDescriptor() != 0) return;
+  PublishDriver(PublishTargetIpa, true);
+}
+
+// The page comes to the front for it, and stays there when it refuses, so that the user sees what
+// the message is about.
+template <typename Page>
+bool CSettingsPropSheet::ValidateDeployment(Page& page) {
+  const int active = GetActiveIndex();
+  if (active != kDeploymentPage) SetActivePage(kDeploymentPage);
+  if (page.SaveToSettings(true) != 0) return false;
+  if (active != kDeploymentPage) SetActivePage(active);
+  return true;
+}
+
+// The publish run reads the file anew.
+bool CSettingsPropSheet::StoreGeneralPageOrDocument() {
+  if (settingsPages_->general.initialised) return settingsPages_->general.StoreToDescriptor() == 0;
+  SaveDocumentDescriptor();
+  return true;
+}
+
+bool CSettingsPropSheet::HasSigningMaterial() {
+  std::u16string digitalSign;
+  GetRegistryString(u"DigitalSign", digitalSign);
+  if (digitalSign != u"sign") return true;
+  if (SettingsGet(keys::kCertificatePath).empty()) {
+    SetActivePage(kDeploymentPage);
+    return false;
+  }
+  if (!SettingsGet(keys::kCertificatePassword).empty()) return true;
+  return CSignaturePasswordDlg(TheServices().frontEnd->FocusWindow()).DoModal() == kIdOk;
+}
+
+void CSettingsPropSheet::SheetHelp() { OpenHelpLink(IsIosForm() ? kIosHelp : kAndroidHelp); }
+
 bool OpenSettingsSheet(WindowHandle, int startPage) {
   if (LoadDocumentDescriptor(false) != kLoaded) return false;
-  CSettingsPropSheet sheet(SettingsEquals(keys::kPublishIpa, u"true"), startPage);
+  const bool ios = IsIosForm();
+  CSettingsPropSheet sheet(ios ? messages::kIosSettingsTitle : messages::kAndroidSettingsTitle);
+  SettingsPages pages;
+  for (CPropertyPage* page : std::initializer_list<CPropertyPage*>{
+           &pages.desktopGeneral, &pages.general, &pages.androidDeployment, &pages.icons,
+           &pages.desktopAdvanced, &pages.iosDeployment, &pages.permissions, &pages.languages}) {
+    page->flags = kPageHasHelp | kPageUsesCallback;
+  }
+  sheet.AddPages(pages, ios);
+  if (startPage != 0) sheet.SetActivePage(startPage);
   sheet.DoModal();
-  // Unsaved edits of the descriptor go with the sheet, however it was left.
-  CurrentDescriptor.Close();
   return true;
 }
 

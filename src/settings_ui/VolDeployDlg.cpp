@@ -65,7 +65,7 @@ CVolDeployDlg::CVolDeployDlg()
 
 void CVolDeployDlg::AddSigningFields() {
   Add<GroupBox>(u"iPhone digital signature", texts::kIosSignatureGroup);
-  Add<qutav::Label>(u"Use an iPhone certificate (.p12)", texts::kIosCertificateHint);
+  Add<Label>(u"Use an iPhone certificate (.p12)", texts::kIosCertificateHint);
   Add<Button>(u"More Info", texts::kIosMoreInfo).onClick = [] { OpenHelpLink(kIosHelp); };
   certificate_.combo = &Add<ComboBox>(u"Certificate:", texts::kIosCertificate);
   Add<Button>(u"Browse...", texts::kIosBrowse).onClick = [this] { BrowseCertificate(); };

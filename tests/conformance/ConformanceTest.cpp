@@ -53,9 +53,11 @@ class HostEnvironmentVariables : public ::testing::Environment {
     // Only the English sheet is answered.
     std::ofstream(suiteFolder / "script.json")
         << R"({"answers": [{"to": "sheet", "title": "TAV for Android Settings", "repeat": true,
-                "settings": {"com.tav.moresh.certpath": "/keys/my.p12",
-                             "com.tav.moresh.certpwd": "secret"},
+                "page": "Deployment",
+                "set": {"Certificate:": ")"
+        << (suiteFolder / "my.p12").string() << R"(", "Password:": "secret"},
                 "press": ["Publish", "Cancel"]}]})";
+    std::ofstream(suiteFolder / "my.p12") << "a keystore";
     InstallTool();
   }
 
@@ -67,6 +69,11 @@ class HostEnvironmentVariables : public ::testing::Environment {
                                 << (suiteFolder / "arguments").string() << "'\n. '"
                                 << (suiteFolder / "ending").string() << "'\n";
     fs::permissions(bin / "java", fs::perms::owner_all);
+    // And one in the place of adb, which knows no device.
+    const fs::path adb = suiteFolder / "sdk/lib/android/bin/adb";
+    fs::create_directories(adb.parent_path());
+    std::ofstream(adb) << "#!/bin/sh\n";
+    fs::permissions(adb, fs::perms::owner_all);
   }
   void TearDown() override { fs::remove_all(suiteFolder); }
 };
@@ -227,6 +234,7 @@ TEST_F(ConformanceTest, AFirstPublishWritesADescriptorAndOpensTheSheetForTheCert
 class WholePublishTest : public ConformanceTest {
  protected:
   WholePublishTest() {
+    host.data[u"com.tav.sdk.path"] = FromUtf8((suiteFolder / "sdk").string());
     std::ofstream(folder / "Game.qmv") << "QMV";
     std::ofstream(folder / "Game-app.xml")
         << R"(<application xmlns="http://ns.zenvoka.example/tav/application/26.0">)"
@@ -260,10 +268,10 @@ TEST_F(WholePublishTest, AFinishedToolIsToldAsAPackage) {
   ASSERT_GE(arguments.size(), 2u);
   EXPECT_EQ(arguments[0], "-jar");
   EXPECT_THAT(std::vector<std::string>(arguments.begin() + 2, arguments.end()),
-              ElementsAre("-package", "-target", "apk-debug", "-connect", "-arch", "armv7",
-                          "-storetype", "PKCS12", "-keystore", "/keys/my.p12", "-storepass",
-                          "secret", movieFolder + "My Game.apk", movieFolder + "Game-app.xml", "-C",
-                          movieFolder, "Game.qmv"));
+              ElementsAre("-package", "-target", "apk-captive-runtime", "-arch", "armv7",
+                          "-storetype", "PKCS12", "-keystore", (suiteFolder / "my.p12").string(),
+                          "-storepass", "secret", movieFolder + "My Game.apk",
+                          movieFolder + "Game-app.xml", "-C", movieFolder, "Game.qmv"));
 }
 
 TEST_F(WholePublishTest, AFailedToolIsToldByItsWords) {

@@ -57,6 +57,8 @@ class PublishTest(unittest.TestCase):
     def setUpClass(cls):
         cls.shared = pathlib.Path(tempfile.mkdtemp(prefix="qutav-endtoend-"))
         cls.addClassCleanup(shutil.rmtree, cls.shared)
+        # The library looks for devices after a publish; here it finds none, and no server of others.
+        cls.no_devices = cls.enterClassContext(Farm(cls.shared))
         cls.keystore = cls.shared / "keys" / "sample.p12"
         cls.keystore.parent.mkdir()
         made = run("java", "-jar", BUILD / "TAV26.0" / "lib" / "KOB.jar", "-certificate",
@@ -73,7 +75,8 @@ class PublishTest(unittest.TestCase):
         self.environment = dict(
             os.environ, CommonProgramFiles=str(self.folder / "common"),
             XDG_CONFIG_HOME=str(self.folder / "config"), TMPDIR=str(self.folder),
-            SAMPLE_PASSWORD=PASSWORD)
+            SAMPLE_PASSWORD=PASSWORD, **self.no_devices.variables)
+        self.skip_waits(5000)
         self.launcher = []  # what starts the host command
         self.install_java(java_home())
 
@@ -148,6 +151,13 @@ class PublishTest(unittest.TestCase):
         process.communicate(timeout=60)
         self.assertEqual(process.returncode, -signal.SIGINT)
 
+    def set_registry_value(self, name, value):
+        """Leaves a value in the user's registry as an earlier session would have."""
+        registry = pathlib.Path(self.environment["XDG_CONFIG_HOME"]) / "qutav" / "registry.json"
+        registry.parent.mkdir(parents=True, exist_ok=True)
+        registry.write_text(json.dumps({"Software\\Zenvoka\\Quorl ": {name: value}}),
+                            encoding="utf-8")
+
     def publish(self, *options, version="26.0", certificate=None, timeout=120):
         command = [BUILD / "qutav", "publish", self.document, "--version", version,
                    "--transcript", self.transcript]
@@ -160,9 +170,9 @@ class PublishTest(unittest.TestCase):
     def publish_with_answers(self, *answers, **options):
         """Publishes by a script: the given answers, and a sheet that publishes and is cancelled."""
         script = self.folder / "script.json"
-        sheet = {"to": "sheet", "press": ["Publish", "Cancel"],
-                 "settings": {"com.tav.moresh.certpath": str(self.keystore),
-                              "com.tav.moresh.certpwd": {"environment": "SAMPLE_PASSWORD"}}}
+        sheet = {"to": "sheet", "page": "Deployment", "press": ["Publish", "Cancel"],
+                 "set": {"Certificate:": str(self.keystore),
+                         "Password:": {"environment": "SAMPLE_PASSWORD"}}}
         script.write_text(json.dumps({"answers": [*answers, sheet]}), encoding="utf-8")
         return self.publish("--script", script, **options)
 

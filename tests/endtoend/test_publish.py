@@ -174,7 +174,7 @@ class OtherDestinations(PublishTest):
 class SavedSettings(PublishTest):
     def test_a_sheet_left_by_ok_after_a_change_is_kept_in_the_document(self):
         self.publish_with_answers(
-            {"to": "sheet", "settings": {"com.tav.pelund.proctype": "x86"}, "press": "OK"})
+            {"to": "sheet", "page": "General", "set": {" Intel x86 (32 bit)": True}, "press": "OK"})
 
         data = json.loads(self.document.read_text(encoding="utf-8"))["data"]
         self.assertEqual(data["com.tav.pelund.proctype"], "x86")

@@ -77,8 +77,8 @@ TEST_F(DeviceCommandsTest, ACertificateIsGivenToTheSettingsBeforeTheRun) {
   run_.devices = {"A1"};
   EXPECT_EQ(RunWith(""), kDone);
   const auto answer = nlohmann::json::parse(folder_.Read("seen-script.json"))["answers"][0];
-  EXPECT_EQ(answer["settings"]["com.tav.moresh.rempwd"], "true");
-  EXPECT_EQ(answer["press"], nlohmann::json({"Cancel"}));
+  EXPECT_EQ(answer["set"]["Remember password for this session"], true);
+  EXPECT_EQ(answer["press"], nlohmann::json({"OK", "Cancel"}));
 }
 
 TEST_F(DeviceCommandsTest, ASerialThatTheListsCannotCarryIsRefused) {

@@ -94,9 +94,9 @@ TEST_F(PublishCommandTest, CertificateAnswersTheSheetWithoutThePasswordItself) {
   UseCertificate();
   EXPECT_EQ(Publish("sheet"), kDone);
   const std::string script = folder_.Read("seen-script.json");
-  const auto settings = nlohmann::json::parse(script)["answers"][0]["settings"];
-  EXPECT_EQ(settings["com.tav.moresh.certpath"], options_.certificate.string());
-  EXPECT_EQ(settings["com.tav.moresh.certpwd"]["file"], options_.passwordFile.string());
+  const auto settings = nlohmann::json::parse(script)["answers"][0]["set"];
+  EXPECT_EQ(settings["Certificate:"], options_.certificate.string());
+  EXPECT_EQ(settings["Password:"]["file"], options_.passwordFile.string());
   EXPECT_THAT(script, ::testing::Not(HasSubstr("secret words")));
 }
 

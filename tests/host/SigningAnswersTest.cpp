@@ -13,9 +13,8 @@ TEST(SigningAnswersTest, AndroidSheetGetsCertificateAndReference) {
   material.certificate = "/keys/my key.p12";
   material.password = {Kind::kEnvironment, "MY_PASSWORD"};
   EXPECT_EQ(SigningAnswers(material, false, SheetUse::kPublish), Json::parse(R"({"answers": [{
-      "to": "sheet",
-      "settings": {"com.tav.moresh.certpath": "/keys/my key.p12",
-                   "com.tav.moresh.certpwd": {"environment": "MY_PASSWORD"}},
+      "to": "sheet", "page": "Deployment",
+      "set": {"Certificate:": "/keys/my key.p12", "Password:": {"environment": "MY_PASSWORD"}},
       "press": ["Publish", "Cancel"]}]})"));
 }
 
@@ -25,10 +24,9 @@ TEST(SigningAnswersTest, IosSheetGetsTheProfileAsWell) {
   material.password = {Kind::kFile, "/run/password"};
   material.provisioningProfile = "/keys/store.mobileprovision";
   EXPECT_EQ(SigningAnswers(material, true, SheetUse::kPublish), Json::parse(R"({"answers": [{
-      "to": "sheet",
-      "settings": {"com.tav.moresh.ipacertpath": "/keys/dist.p12",
-                   "com.tav.moresh.ipacertpwd": {"file": "/run/password"},
-                   "com.tav.moresh.ipaprovision": "/keys/store.mobileprovision"},
+      "to": "sheet", "page": "Deployment",
+      "set": {"Certificate:": "/keys/dist.p12", "Password:": {"file": "/run/password"},
+              "Provisioning profile:": "/keys/store.mobileprovision"},
       "press": ["Publish", "Cancel"]}]})"));
 }
 
@@ -37,19 +35,17 @@ TEST(SigningAnswersTest, MaterialForLaterCommandsIsRememberedAndTheSheetLeft) {
   material.certificate = "/keys/my.p12";
   material.password = {Kind::kEnvironment, "MY_PASSWORD"};
   EXPECT_EQ(SigningAnswers(material, false, SheetUse::kRemember), Json::parse(R"({"answers": [{
-      "to": "sheet",
-      "settings": {"com.tav.moresh.certpath": "/keys/my.p12",
-                   "com.tav.moresh.certpwd": {"environment": "MY_PASSWORD"},
-                   "com.tav.moresh.rempwd": "true"},
-      "press": ["Cancel"]}]})"));
+      "to": "sheet", "page": "Deployment",
+      "set": {"Certificate:": "/keys/my.p12", "Password:": {"environment": "MY_PASSWORD"},
+              "Remember password for this session": true},
+      "press": ["OK", "Cancel"]}]})"));
 }
 
 TEST(SigningAnswersTest, ProfileThatWasNotGivenLeavesTheDocumentsOwn) {
   SigningMaterial material;
   material.certificate = "/keys/dist.p12";
-  const Json settings =
-      SigningAnswers(material, true, SheetUse::kPublish)["answers"][0]["settings"];
-  EXPECT_FALSE(settings.contains("com.tav.moresh.ipaprovision"));
+  const Json fields = SigningAnswers(material, true, SheetUse::kPublish)["answers"][0]["set"];
+  EXPECT_FALSE(fields.contains("Provisioning profile:"));
 }
 
 }  // namespace

@@ -16,10 +16,10 @@ class SamplePage : public CPropertyPage {
 
  protected:
   bool OnInitDialog() override {
-    events_.push_back(u"create " + Label());
+    events_.push_back(u"create " + EnglishTitle());
     return CPropertyPage::OnInitDialog();
   }
-  void OnDestroy() override { events_.push_back(u"destroy " + Label()); }
+  void OnDestroy() override { events_.push_back(u"destroy " + EnglishTitle()); }
 
  private:
   std::vector<std::u16string>& events_;
@@ -41,12 +41,6 @@ class SampleSheet : public CPropertySheet {
     CPropertySheet::OnCancel();
   }
   void OnHelp() override { events.push_back(u"Help"); }
-  void PutSetting(const std::u16string& key, const std::u16string& value) override {
-    events.push_back(key + u"=" + value);
-  }
-  void PutRegistryValue(const std::u16string& name, const std::u16string& value) override {
-    events.push_back(u"registry " + name + u"=" + value);
-  }
 
   std::vector<std::u16string> events;
 };

@@ -37,12 +37,11 @@ class AdvancedSettingsDlgTest : public DescriptorTest {
   CAdvancedSettingsDlg page;
 };
 
-// --- The page
-// -------------------------------------------------------------------------------------
+// --- The page -----------------------------------------------------------------------------------
 
 TEST_F(AdvancedSettingsDlgTest, ShowsItsFieldsInTheirOrderUnderItsTitle) {
   EXPECT_EQ(page.Title(), u"Advanced");
-  EXPECT_EQ(page.Label(), u"Advanced");
+  EXPECT_EQ(page.EnglishTitle(), u"Advanced");
   const std::u16string expected[] = {u"Associated file types",
                                      u"File types:",
                                      u"Add file type",
@@ -116,8 +115,7 @@ TEST_F(AdvancedSettingsDlgTest, TheThreeImageButtonsLightUpUnderTheMouse) {
   }
 }
 
-// --- Fields
-// ---------------------------------------------------------------------------------------
+// --- Fields -------------------------------------------------------------------------------------
 
 TEST_F(AdvancedSettingsDlgTest, FieldsAreLoaded) {
   LoadChildren(
@@ -257,8 +255,7 @@ TEST_F(AdvancedSettingsDlgTest, SizeLimitsAreEnabledWhileTheWindowIsResizable) {
   EXPECT_TRUE(Enabled(u"Width:"));
 }
 
-// --- Listing file types
-// ---------------------------------------------------------------------------
+// --- Listing file types -------------------------------------------------------------------------
 
 TEST_F(AdvancedSettingsDlgTest, WithoutFileTypesThePlaceholderStandsAlone) {
   page.Create();
@@ -321,8 +318,7 @@ TEST_F(AdvancedSettingsDlgTest, AMissingFieldOfATypeIsNotTakenFromTheTypeBefore)
   EXPECT_EQ(page.fileTypes[u"Bare"].contentType, u"");
 }
 
-// --- Adding
-// ---------------------------------------------------------------------------------------
+// --- Adding -------------------------------------------------------------------------------------
 
 TEST_F(AdvancedSettingsDlgTest, AnAddedTypeTakesThePlaceOfThePlaceholder) {
   page.Create();
@@ -338,11 +334,12 @@ TEST_F(AdvancedSettingsDlgTest, AnAddedTypeTakesThePlaceOfThePlaceholder) {
   EXPECT_EQ(page.fileTypes[u"Movie"].storedName, "Movie");
 }
 
-TEST_F(AdvancedSettingsDlgTest, AddingStartsWithAnEmptyDialog) {
+TEST_F(AdvancedSettingsDlgTest, AddingStartsWithAnEmptyDialogOverTheFocusWindow) {
   LoadTypes(Type("Movie", "mov"));
   page.Create();
-  frontEnd.onDialog = [](CDialog& dialog) {
+  frontEnd.onDialog = [this](CDialog& dialog) {
     EXPECT_EQ(Find<Edit>(dialog, u"Name:").text, u"");
+    EXPECT_EQ(dialog.Parent(), frontEnd.focus);
     dialog.OnCancel();
   };
 
@@ -394,8 +391,7 @@ TEST_F(AdvancedSettingsDlgTest, ATypeOfTheSameNameWithAnotherExtensionIsARowOfIt
   EXPECT_EQ(page.fileTypes[u"Movie"].extension, "mp4");
 }
 
-// --- Editing
-// --------------------------------------------------------------------------------------
+// --- Editing ------------------------------------------------------------------------------------
 
 TEST_F(AdvancedSettingsDlgTest, EditingShowsTheSelectedType) {
   LoadTypes(Type("Movie", "mov") + Type("Picture", "pic"));
@@ -495,8 +491,7 @@ TEST_F(AdvancedSettingsDlgTest, ThePlaceholderCannotBeEdited) {
   EXPECT_THAT(Types().Rows(), ElementsAre(u"<None>"));
 }
 
-// --- Deleting
-// -------------------------------------------------------------------------------------
+// --- Deleting -----------------------------------------------------------------------------------
 
 TEST_F(AdvancedSettingsDlgTest, ADeletedTypeLeavesTheListAndStaysMarked) {
   LoadTypes(Type("Movie", "mov") + Type("Picture", "pic"));

@@ -135,14 +135,18 @@ TEST(AnswerScriptTest, ButtonsAreOneOrAList) {
 
 TEST(AnswerScriptTest, ValuesOfAnAnswerAreRead) {
   AnswerScript script = Script(
-      R"({"to": "sheet", "settings": {"a": "1"}, "registry": {"b": "2"}, "set": {"c": "3"},
-          "after": 4})");
+      R"({"to": "sheet", "page": "P", "select": {"a": "1"}, "set": {"c": "3"}, "show": true,
+          "after": 4, "choose": "x.png", "steps": [{"press": "OK"}]})");
 
   const ScriptAnswer answer = *script.Take({"sheet", "", "", ""});
 
-  EXPECT_THAT(answer.settings, ElementsAre(Pair("a", "1")));
-  EXPECT_THAT(answer.registry, ElementsAre(Pair("b", "2")));
-  EXPECT_THAT(answer.steps.at(0).set, ElementsAre(Pair("c", "3")));
+  ASSERT_EQ(answer.steps.size(), 2u);
+  EXPECT_EQ(answer.steps[0].page, "P");
+  EXPECT_THAT(answer.steps[0].select, ElementsAre(Pair("a", "1")));
+  EXPECT_THAT(answer.steps[0].set, ElementsAre(Pair("c", "3")));
+  EXPECT_TRUE(answer.steps[0].show);
+  EXPECT_THAT(answer.steps[1].press, ElementsAre("OK"));
+  EXPECT_EQ(answer.choose, "x.png");
   EXPECT_EQ(answer.after, 4u);
 }
 

@@ -53,7 +53,7 @@ TEST_F(AppSettingsDlgLoadTest, TheControlsStandInTheOrderOfThePage) {
                           u"Window style:", u"Profiles:", u"Desktop", u"Mobile Device",
                           u"Extended Desktop", u"Extended Mobile Device", u"Included files",
                           u"Add file", u"Delete", u"Add folder"));
-  EXPECT_EQ(page.Label(), u"General");
+  EXPECT_EQ(page.EnglishTitle(), u"General");
   EXPECT_EQ(page.Title(), u"General");
   EXPECT_EQ(page.ClassName(), u"CAppSettingsDlg");
   EXPECT_EQ(EditOf(u"Description:").style, EditStyle::kMultiLine);

@@ -28,7 +28,7 @@ class CPropertySheetTest : public ServicesTest {
 
 TEST_F(CPropertySheetTest, PagesStandInTheOrderInWhichTheyWereAdded) {
   EXPECT_THAT(sheet.Pages(), ElementsAre(&general, &deployment, &icons));
-  EXPECT_EQ(deployment.Label(), u"Deployment");
+  EXPECT_EQ(deployment.EnglishTitle(), u"Deployment");
 }
 
 TEST_F(CPropertySheetTest, OnlyThePageInFrontIsCreated) {

@@ -3,20 +3,21 @@
 #include "ServicesTest.h"
 #include "framework/CDialog.h"
 #include "packaging/SelfSignDlg.h"
+#include "settings_ui/AdvancedSettingsDlg.h"
+#include "settings_ui/AppSettingsDlg.h"
 #include "settings_ui/DigitalSigDlg.h"
 #include "settings_ui/DroFeaturesDlg.h"
-#include "settings_ui/LanguagesDlg.h"
-#include "settings_ui/AppSettingsDlg.h"
-#include "settings_ui/IpaSettingsDlg.h"
-#include "settings_ui/AdvancedSettingsDlg.h"
 #include "settings_ui/FileTypeDlg.h"
 #include "settings_ui/IconPreviewDlg.h"
+#include "settings_ui/IpaSettingsDlg.h"
+#include "settings_ui/LanguagesDlg.h"
 #include "settings_ui/ProgressDlg.h"
 #include "settings_ui/SettingsSheet.h"
 #include "settings_ui/SignaturePasswordDlg.h"
 #include "settings_ui/TimestampRetryDlg.h"
 #include "settings_ui/VolDeployDlg.h"
 #include "win/InterfaceLanguage.h"
+#include "win/MessageIds.h"
 
 namespace qutav::test {
 namespace {
@@ -29,8 +30,7 @@ std::vector<std::unique_ptr<CDialog>> AllDialogs() {
   dialogs.push_back(std::make_unique<CSignaturePasswordDlg>(nullptr));
   dialogs.push_back(std::make_unique<CDroFeaturesDlg>());
   dialogs.push_back(std::make_unique<CLanguagesDlg>());
-  dialogs.push_back(std::make_unique<CSettingsPropSheet>(false, 0));
-  dialogs.push_back(std::make_unique<CSettingsPropSheet>(true, 0));
+  dialogs.push_back(std::make_unique<CSettingsPropSheet>(messages::kAndroidSettingsTitle));
   dialogs.push_back(std::make_unique<CDigitalSigDlg>());
   dialogs.push_back(std::make_unique<CSelfSignDlg>(nullptr));
   dialogs.push_back(std::make_unique<CIpaSettingsDlg>());

@@ -20,7 +20,7 @@ class DigitalSigDlgTest : public DigitalSigTest {
 
 TEST_F(DigitalSigDlgTest, ShowsItsControlsInOrderUnderItsTitle) {
   EXPECT_EQ(page.Title(), u"Deployment");
-  EXPECT_EQ(page.Label(), u"Deployment");
+  EXPECT_EQ(page.EnglishTitle(), u"Deployment");
   EXPECT_EQ(page.ClassName(), u"CDigitalSigDlg");
   std::vector<std::u16string> labels;
   for (const auto& control : page.Controls()) labels.push_back(control->label);

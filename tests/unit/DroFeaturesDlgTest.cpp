@@ -67,7 +67,7 @@ TEST_F(DroFeaturesDlgTest, ShowsItsControlsInOrderUnderItsTitle) {
   for (const auto& control : page.Controls()) labels.push_back(control->label);
 
   EXPECT_EQ(page.ClassName(), u"CDroFeaturesDlg");
-  EXPECT_EQ(page.Label(), u"Permissions");
+  EXPECT_EQ(page.EnglishTitle(), u"Permissions");
   EXPECT_EQ(page.Title(), u"Permissions");
   EXPECT_THAT(
       labels,

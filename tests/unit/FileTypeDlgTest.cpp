@@ -47,8 +47,7 @@ class FileTypeDlgTest : public ServicesTest {
   CFileTypeDlg dialog{nullptr, record};
 };
 
-// --- The dialog
-// -----------------------------------------------------------------------------------
+// --- The dialog ---------------------------------------------------------------------------------
 
 TEST_F(FileTypeDlgTest, ShowsItsFieldsInTheirOrderUnderItsTitle) {
   EXPECT_EQ(dialog.Title(), u"File Type Settings");
@@ -150,8 +149,7 @@ TEST_F(FileTypeDlgTest, AnyOfTheEightButtonsLightsUpUnderTheMouse) {
   for (CStretchBitmapButton* button : buttons) EXPECT_FALSE(button->focused);
 }
 
-// --- Filling
-// --------------------------------------------------------------------------------------
+// --- Filling ------------------------------------------------------------------------------------
 
 TEST_F(FileTypeDlgTest, AnExistingTypeFillsTheFields) {
   record.name = "Tr\xC3\xA4ume";
@@ -237,8 +235,7 @@ TEST_F(FileTypeDlgTest, PreviewsAreDrawnAnewWithEveryPaint) {
   EXPECT_EQ(Preview(u"128x128").Painted(), nullptr);
 }
 
-// --- Browsing and removing
-// ------------------------------------------------------------------------
+// --- Browsing and removing ----------------------------------------------------------------------
 
 TEST_F(FileTypeDlgTest, BrowsingOffersPngFilesAndCancelChangesNothing) {
   dialog.Create();
@@ -377,8 +374,7 @@ TEST_F(FileTypeDlgTest, AChosenFileThatIsNoImageLeavesAWhitePreview) {
   EXPECT_EQ(Preview(u"48x48").Painted(), nullptr);
 }
 
-// --- OK: the texts
-// --------------------------------------------------------------------------------
+// --- OK: the texts ------------------------------------------------------------------------------
 
 TEST_F(FileTypeDlgTest, OkStoresEveryText) {
   CreateFilled();
@@ -482,8 +478,7 @@ TEST_F(FileTypeDlgTest, AnExtensionOutsideItsRulesIsRefused) {
   }
 }
 
-// --- OK: the icons
-// --------------------------------------------------------------------------------
+// --- OK: the icons ------------------------------------------------------------------------------
 
 TEST_F(FileTypeDlgTest, IconsAreStoredWithForwardSlashesAndTheirBlanks) {
   files.Put(u"C:/m/i/a b.png");

@@ -45,12 +45,11 @@ class IconPreviewDlgTest : public DescriptorTest {
   CIconPreviewDlg page;
 };
 
-// --- The page
-// -------------------------------------------------------------------------------------
+// --- The page -----------------------------------------------------------------------------------
 
 TEST_F(IconPreviewDlgTest, ShowsItsControlsUnderItsTitle) {
   EXPECT_EQ(page.Title(), u"Icons");
-  EXPECT_EQ(page.Label(), u"Icons");
+  EXPECT_EQ(page.EnglishTitle(), u"Icons");
   std::vector<std::u16string> labels;
   for (const auto& control : page.Controls()) labels.push_back(control->label);
   EXPECT_THAT(labels, ElementsAre(u"Icon sizes:", u"36x36", u"Icon path:", u"Browse icon",
@@ -72,8 +71,7 @@ TEST_F(IconPreviewDlgTest, StartsWithTheFirstSize) {
   EXPECT_FALSE(page.IsIconChanged());
 }
 
-// --- Sizes
-// ----------------------------------------------------------------------------------------
+// --- Sizes --------------------------------------------------------------------------------------
 
 struct LevelCase {
   std::u16string level;
@@ -132,8 +130,7 @@ TEST_F(IconPreviewDlgTest, ARowWhoseLevelIsNoLongerThereHasNoSize) {
   EXPECT_EQ(page.CurrentIconSize(), 0);
 }
 
-// --- Showing
-// --------------------------------------------------------------------------------------
+// --- Showing ------------------------------------------------------------------------------------
 
 TEST_F(IconPreviewDlgTest, ASelectedSizeShowsItsNameAndItsPath) {
   LoadIcons("<image36x36>a.png</image36x36><image144x144>icons/b.png</image144x144>");
@@ -265,8 +262,7 @@ TEST_F(IconPreviewDlgTest, AFileThatIsNoImageReplacesTheOneBefore) {
   EXPECT_EQ(Preview().Painted(), nullptr);
 }
 
-// --- Browsing
-// -------------------------------------------------------------------------------------
+// --- Browsing -----------------------------------------------------------------------------------
 
 TEST_F(IconPreviewDlgTest, BrowsingOffersPngFiles) {
   page.Create();
@@ -443,8 +439,7 @@ TEST_F(IconPreviewDlgTest, AWrongImageFromElsewhereIsRefusedBeforeAnyQuestion) {
   EXPECT_FALSE(files.Exists(u"C:/m/AppIconsForPublish"));
 }
 
-// --- Removing
-// -------------------------------------------------------------------------------------
+// --- Removing -----------------------------------------------------------------------------------
 
 TEST_F(IconPreviewDlgTest, ARemovedIconGoesFromTheDescriptorAndThePreviewForGood) {
   PutImage(u"C:\\m\\AppIconsForPublish\\a.png", 36, 36);
@@ -471,8 +466,7 @@ TEST_F(IconPreviewDlgTest, RemovingWhereThereIsNoIconCountsAsAChange) {
   EXPECT_EQ(Children(), "<icon/>");
 }
 
-// --- Hovering
-// -------------------------------------------------------------------------------------
+// --- Hovering -----------------------------------------------------------------------------------
 
 TEST_F(IconPreviewDlgTest, TheButtonUnderTheMouseLightsUpUntilTheMouseIsOverNeither) {
   auto& browse = Find<CStretchBitmapButton>(page, u"Browse icon");

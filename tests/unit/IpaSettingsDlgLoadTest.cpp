@@ -45,7 +45,7 @@ TEST_F(IpaSettingsDlgLoadTest, TheControlsStandInTheOrderOfThePage) {
                                   u"Auto orientation", u"Render mode:", u"Processor:",
                                   u" ARMv7 (32 bit)", u" Intel x86 (32 bit)", u" ARMv8 (64 bit)",
                                   u"Included files:", u"Add file", u"Delete", u"Add folder"));
-  EXPECT_EQ(page.Label(), u"General");
+  EXPECT_EQ(page.EnglishTitle(), u"General");
   EXPECT_EQ(page.Title(), u"General");
   EXPECT_EQ(page.ClassName(), u"CIpaSettingsDlg");
 }

@@ -48,7 +48,7 @@ TEST_F(LanguagesDlgTest, ShowsItsControlsInOrderUnderItsTitle) {
   for (const auto& control : page.Controls()) labels.push_back(control->label);
 
   EXPECT_EQ(page.ClassName(), u"CLanguagesDlg");
-  EXPECT_EQ(page.Label(), u"Languages");
+  EXPECT_EQ(page.EnglishTitle(), u"Languages");
   EXPECT_EQ(page.Title(), u"Languages");
   EXPECT_THAT(labels,
               ElementsAre(u"Select the languages below that will be supported in your application:",

@@ -30,8 +30,7 @@ class ProvisioningProfileTest : public ServicesTest {
   }
 };
 
-// --- Cutting
-// --------------------------------------------------------------------------------------
+// --- Cutting ------------------------------------------------------------------------------------
 
 TEST_F(ProvisioningProfileTest, TheListIsCutOutFromItsFirstByteToItsLast) {
   EXPECT_EQ(CutPropertyList("\x30\x82\0binary<plist version=\"1.0\"><dict/></plist>more"s),
@@ -76,8 +75,7 @@ TEST_F(ProvisioningProfileTest, AnEndBeforeTheBeginningDoesNotEndTheList) {
   EXPECT_EQ(CutPropertyList("</plist><plist>a</plist>"), "");
 }
 
-// --- Reading
-// --------------------------------------------------------------------------------------
+// --- Reading ------------------------------------------------------------------------------------
 
 TEST_F(ProvisioningProfileTest, TheIdentifierComesWithoutTheTeam) {
   EXPECT_THAT(Read("\n\t<key>application-identifier</key>\n"
@@ -184,8 +182,7 @@ TEST_F(ProvisioningProfileTest, AFolderInWhichNothingCanBeWrittenTellsNothing) {
   EXPECT_NE(GetCapturedStdout(), "");
 }
 
-// --- The App ID
-// -----------------------------------------------------------------------------------
+// --- The App ID ---------------------------------------------------------------------------------
 
 struct Covered {
   std::u16string identifier;

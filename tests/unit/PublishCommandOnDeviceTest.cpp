@@ -142,14 +142,15 @@ TEST_F(PublishCommandOnDeviceTest, ATypeChangedOnTheSheetDuringTheRunIsRespected
 TEST_F(PublishCommandOnDeviceTest, TheSheetsOkSavesThePublishTypeOfBeforeAndThenTheSessionEnds) {
   SettingsSet(keys::kCertificatePath, u"");
   frontEnd.onSheet = [](CPropertySheet& sheet) {
-    sheet.PutSetting(keys::kTavDestination, u"C:/out/");
+    sheet.SetActivePage(0);
+    Find<Edit>(*sheet.Pages()[0], u"Output file:").Type(u"C:/out/Game.apk");
     PressButton(sheet, u"OK");
   };
 
   Debug();
 
   EXPECT_EQ(host.data[u"com.tav.pelund.publishtype"], u"release");
-  EXPECT_EQ(host.data[u"com.tav.moresh.tavdest"], u"C:/out/");
+  EXPECT_EQ(host.data[u"com.tav.moresh.tavdest"], u"C:/out/Game.apk");
   EXPECT_THAT(host.ScriptsBeginning(u"qu.getDocumentDOM().addDataToDocument("),
               Contains(u"qu.getDocumentDOM().addDataToDocument(\"com.tav.pelund.publishtype\", "
                        u"\"string\", \"release\");"));

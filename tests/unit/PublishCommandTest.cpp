@@ -26,7 +26,7 @@ class PublishCommandTest : public PublishableDocumentTest {
   void OpenSheetAndPress(const std::u16string& button) {
     SettingsSet(keys::kCertificatePath, u"");
     frontEnd.onSheet = [button](CPropertySheet& sheet) {
-      sheet.PutSetting(keys::kMarketUrl, u"http://market");
+      Find<RadioButton>(*sheet.Pages()[1], u"Debug").Click();
       PressButton(sheet, button);
     };
   }
@@ -218,7 +218,7 @@ TEST_F(PublishCommandTest, ASheetLeftByOkAfterAChangeStoresTheSettingsInTheDocum
 
   Publish();
 
-  EXPECT_EQ(host.data[u"com.tav.pelund.marketURL"], u"http://market");
+  EXPECT_EQ(host.data[u"com.tav.pelund.publishtype"], u"debug");
   EXPECT_EQ(host.data[u"qmv.folder.path"], u"C:/m/");
 }
 
@@ -228,7 +228,7 @@ TEST_F(PublishCommandTest, ASheetLeftByCancelStoresNothing) {
   Publish();
 
   EXPECT_THAT(frontEnd.dialogs, ElementsAre(u"CSettingsPropSheet"));
-  EXPECT_FALSE(host.data.contains(u"com.tav.pelund.marketURL"));
+  EXPECT_FALSE(host.data.contains(u"com.tav.pelund.publishtype"));
 }
 
 TEST_F(PublishCommandTest, APublishTouchesNoneOfTheBorrowedSettings) {

@@ -11,12 +11,11 @@ using ::testing::internal::GetCapturedStdout;
 
 class VolDeployDlgTest : public VolDeployTest {};
 
-// --- The page
-// -------------------------------------------------------------------------------------
+// --- The page -----------------------------------------------------------------------------------
 
 TEST_F(VolDeployDlgTest, ShowsItsFieldsInTheirOrderUnderItsTitle) {
   EXPECT_EQ(page.Title(), u"Deployment");
-  EXPECT_EQ(page.Label(), u"Deployment");
+  EXPECT_EQ(page.EnglishTitle(), u"Deployment");
   std::vector<std::u16string> labels;
   for (const auto& control : page.Controls()) labels.push_back(control->label);
   EXPECT_THAT(labels, ElementsAre(u"iPhone digital signature", u"Use an iPhone certificate (.p12)",
@@ -58,8 +57,7 @@ TEST_F(VolDeployDlgTest, MoreInfoOpensTheHelp) {
               ElementsAre(u"https://www.zenvoka.example/go/learn_TAV_for_iOS_quorl_en"));
 }
 
-// --- Loading
-// --------------------------------------------------------------------------------------
+// --- Loading ------------------------------------------------------------------------------------
 
 struct DeployTypeCase {
   std::u16string stored;
@@ -128,8 +126,7 @@ TEST_F(VolDeployDlgTest, ADescriptorWithoutIdLeavesTheAppIdEmpty) {
   EXPECT_EQ(ApplicationId().text, u"");
 }
 
-// --- Both files
-// -----------------------------------------------------------------------------------
+// --- Both files ---------------------------------------------------------------------------------
 
 class VolDeployFileTest : public VolDeployTest,
                           public ::testing::WithParamInterface<FileFieldCase> {
@@ -250,8 +247,7 @@ TEST_P(VolDeployFileTest, TheOpenedListIsAsWideAsItsWidestRowAndADigit) {
   EXPECT_EQ(Combo().DroppedWidth(), 11 * 7 + 7);
 }
 
-// --- Browsing for a certificate
-// -------------------------------------------------------------------
+// --- Browsing for a certificate -----------------------------------------------------------------
 
 TEST_F(VolDeployDlgTest, BrowsingForACertificateOffersP12Files) {
   page.Create();
@@ -299,8 +295,7 @@ TEST_F(VolDeployDlgTest, CancelledBrowsingChangesNothing) {
   EXPECT_THAT(Combo(u"Provisioning profile:").Rows(), IsEmpty());
 }
 
-// --- Browsing for a profile
-// -----------------------------------------------------------------------
+// --- Browsing for a profile ---------------------------------------------------------------------
 
 TEST_F(VolDeployDlgTest, BrowsingForAProfileOffersProfiles) {
   page.Create();
@@ -338,8 +333,7 @@ TEST_F(VolDeployDlgTest, AChosenProfileThatIsListedChangesNeitherSelectionNorApp
   EXPECT_EQ(ApplicationId().text, u"com.old.game");
 }
 
-// --- The profile and the App ID
-// -------------------------------------------------------------------
+// --- The profile and the App ID -----------------------------------------------------------------
 
 class VolDeployProfileTest : public VolDeployTest {
  protected:
@@ -390,9 +384,9 @@ TEST_F(VolDeployProfileTest, AProfileThatDoesNotParseChangesNothing) {
   EXPECT_TRUE(frontEnd.messages.empty());
 }
 
-TEST_F(VolDeployProfileTest, ThePathOfTheSelectedRowCountsNotTheTypedText) {
+TEST_F(VolDeployProfileTest, ThePathOfTheSelectedRowCountsNotTheShownText) {
   AppIdAfter("ABCDE12345.com.selected", u"");
-  Combo(u"Provisioning profile:").Type(PutProfile(u"typed", "ABCDE12345.com.typed"));
+  Combo(u"Provisioning profile:").SetText(PutProfile(u"typed", "ABCDE12345.com.typed"));
   EXPECT_EQ(ApplicationId().text, u"com.selected");
 
   page.ApplyProvisioningProfile();
@@ -430,8 +424,7 @@ TEST_F(VolDeployProfileTest, TheUserLearnsOfAProfileWithoutAListAndThePageGoesOn
   EXPECT_EQ(ApplicationId().text, u"com.old.game");
 }
 
-// --- Deployment types
-// -----------------------------------------------------------------------------
+// --- Deployment types ---------------------------------------------------------------------------
 
 TEST_F(VolDeployDlgTest, ADeploymentTypeIsStoredAtOnce) {
   page.Create();

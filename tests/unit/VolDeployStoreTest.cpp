@@ -173,8 +173,7 @@ TEST_F(VolDeployStoreTest, ThePageStaysInitialisedAndChangedAfterAFailure) {
   EXPECT_TRUE(page.changed);
 }
 
-// --- Both files
-// -----------------------------------------------------------------------------------
+// --- Both files ---------------------------------------------------------------------------------
 
 class VolDeployFileStoreTest : public VolDeployStoreTest,
                                public ::testing::WithParamInterface<FileFieldCase> {

@@ -16,9 +16,8 @@ using nlohmann::json;
 using Members = std::vector<std::string_view>;
 
 const Members kStepMembers = {"page", "select", "set", "press", "show"};
-const Members kAnswerMembers = {"to",     "contains", "class",  "title",    "select",
-                                "set",    "page",     "press",  "show",     "steps",
-                                "choose", "after",    "repeat", "settings", "registry"};
+const Members kAnswerMembers = {"to",    "contains", "class", "title",  "select", "set",   "page",
+                                "press", "show",     "steps", "choose", "after",  "repeat"};
 constexpr std::array<std::string_view, 5> kKinds = {"message", "dialog", "sheet", "file", "folder"};
 
 std::string ReadSecretFile(const std::string& path) {
@@ -114,8 +113,6 @@ ScriptAnswer ReadAnswer(const json& source) {
   answer.className = ReadOptional<std::string>(source, "class");
   answer.title = ReadOptional<std::string>(source, "title");
   answer.steps = ReadSteps(source);
-  answer.settings = ReadValues(source, "settings");
-  answer.registry = ReadValues(source, "registry");
   answer.choose = ReadOptional<std::string>(source, "choose");
   answer.after = ReadAfter(source);
   answer.repeat = ReadOptional<bool>(source, "repeat").value_or(false);

@@ -28,8 +28,6 @@ struct ScriptAnswer {
   std::optional<std::string> className;
   std::optional<std::string> title;
   std::vector<ScriptStep> steps;
-  ScriptValues settings;
-  ScriptValues registry;
   std::optional<std::string> choose;  ///< the path that a file or folder dialog gives
   std::optional<unsigned> after;
   bool repeat = false;

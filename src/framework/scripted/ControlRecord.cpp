@@ -97,14 +97,6 @@ class Recorder final : public ControlVisitor {
 
 }  // namespace
 
-Json RecordValues(const ScriptValues& values) {
-  Json record = Json::object();
-  for (const auto& [key, value] : values) {
-    record[key] = key.ends_with("pwd") && !value.empty() ? "***" : value;
-  }
-  return record;
-}
-
 Json RecordControls(const CDialog& dialog) {
   Json records = Json::array();
   for (const auto& control : dialog.Controls()) records.push_back(Recorder(*control).Take());

@@ -158,16 +158,7 @@ int ScriptedFrontEnd::RunModal(CPropertySheet& sheet) {
   ScriptedSheetWindow window(sheet, transcript_);
   const std::string title = ToUtf8(sheet.Title());
   const auto answer = TakeAnswer({"sheet", ToUtf8(sheet.ClassName()), title, ""});
-  const ScriptAnswer given = answer.value_or(ScriptAnswer{});
-  for (const auto& [key, value] : given.settings) sheet.PutSetting(FromUtf8(key), FromUtf8(value));
-  for (const auto& [name, value] : given.registry) {
-    sheet.PutRegistryValue(FromUtf8(name), FromUtf8(value));
-  }
-  transcript_.Write({{"event", "sheet"},
-                     {"title", title},
-                     {"page", sheet.GetActiveIndex()},
-                     {"settings", RecordValues(given.settings)},
-                     {"registry", RecordValues(given.registry)}});
+  transcript_.Write({{"event", "sheet"}, {"title", title}, {"page", sheet.GetActiveIndex()}});
   sheet.Attach(&window);
   sheet.Create();
   pressed_.clear();

@@ -32,7 +32,7 @@ CDialog& StepPlayer::Front() const {
 void StepPlayer::TurnTo(const std::string& page) {
   const int count = sheet_ == nullptr ? 0 : static_cast<int>(sheet_->Pages().size());
   for (int i = 0; i < count; ++i) {
-    if (sheet_->Pages()[static_cast<std::size_t>(i)]->Label() != FromUtf8(page)) continue;
+    if (sheet_->Pages()[static_cast<std::size_t>(i)]->EnglishTitle() != FromUtf8(page)) continue;
     CDialog::Dispatch([&] { sheet_->SetActivePage(i); });
     return;
   }

@@ -1,5 +1,7 @@
 #include "framework/scripted/UserActions.h"
 
+#include <algorithm>
+
 #include "framework/CStretchBitmapButton.h"
 #include "framework/CheckList.h"
 #include "framework/ComboBox.h"
@@ -55,6 +57,7 @@ class SetAction final : public Action {
 
   void Visit(Edit& edit) override {
     if (edit.style == EditStyle::kReadOnly) return;
+    if (edit.style == EditStyle::kDigits && !IsNumber()) return;
     edit.Type(value_);
     done_ = true;
   }
@@ -78,6 +81,10 @@ class SetAction final : public Action {
   }
 
  private:
+  bool IsNumber() const {
+    return std::all_of(value_.begin(), value_.end(),
+                       [](char16_t c) { return c >= u'0' && c <= u'9'; });
+  }
   bool IsOn() const { return value_ == u"true"; }
   bool IsSwitch() const { return IsOn() || value_ == u"false"; }
 
