@@ -115,6 +115,27 @@ void AddDevicesOptions(CLI::App& command, DevicesOptions& options) {
       "wrong.");
 }
 
+void AddSettingsOptions(CLI::App& command, SettingsOptions& options) {
+  AddCallOptions(command, options);
+  const auto add = [&](const char* name, std::vector<std::string>& values, const char* help,
+                       const char* form) {
+    command.add_option(name, values, help)->type_name(form)->allow_extra_args(false);
+  };
+  add("--set", options.set,
+      "give a control a value, addressed as the table shows it; true or false for a switch; repeat "
+      "it for several",
+      "PAGE.LABEL=VALUE");
+  add("--set-env", options.setFromEnvironment, "the value of an environment variable",
+      "PAGE.LABEL=NAME");
+  add("--set-file", options.setFromFile, "the text of a file", "PAGE.LABEL=FILE");
+  command.footer(
+      "Shows every page of the settings sheet. With changes the sheet is left by OK, which stores "
+      "them.\n"
+      "Exit code: 0 the sheet was shown and took all changes, 1 it was not or did not, 2 the "
+      "command "
+      "line or the document is wrong.");
+}
+
 void AddDeviceRunOptions(CLI::App& command, DeviceRunOptions& options, bool debugs) {
   options.debugs = debugs;
   AddCallOptions(command, options);
@@ -182,6 +203,8 @@ class Subcommands {
     CLI::App* debug = app.add_subcommand("debug", "run it there under the debugger");
     AddLaunchOptions(*debug, debug_, true);
     AddDevicesOptions(*app.add_subcommand("devices", "list the connected devices"), devices_);
+    AddSettingsOptions(*app.add_subcommand("settings", "show and change the document's settings"),
+                       settings_);
     CLI::App* testOnDevice =
         app.add_subcommand("test-on-device", "package, install and start on devices");
     AddDeviceRunOptions(*testOnDevice, testOnDevice_, false);
@@ -197,6 +220,7 @@ class Subcommands {
     if (name == "test") return Absolute(test_);
     if (name == "debug") return Absolute(debug_);
     if (name == "devices") return Absolute(devices_);
+    if (name == "settings") return Absolute(settings_);
     if (name == "test-on-device") return Absolute(testOnDevice_);
     if (name == "debug-on-device") return Absolute(debugOnDevice_);
     return Absolute(evaluate_);
@@ -213,6 +237,7 @@ class Subcommands {
   LaunchOptions test_;
   LaunchOptions debug_;
   DevicesOptions devices_;
+  SettingsOptions settings_;
   DeviceRunOptions testOnDevice_;
   DeviceRunOptions debugOnDevice_;
   EvaluateOptions evaluate_;

@@ -45,6 +45,14 @@ struct LaunchOptions : CallOptions {
 
 struct DevicesOptions : CallOptions {};
 
+/// The settings sheet, with changes of the form PAGE.LABEL=VALUE.
+struct SettingsOptions : CallOptions {
+  std::vector<std::string> set;
+  /// The value is in the environment variable, or in the file, of that name.
+  std::vector<std::string> setFromEnvironment;
+  std::vector<std::string> setFromFile;
+};
+
 /// Runs on devices, one after the other.
 struct DeviceRunOptions : PublishOptions {
   bool debugs = false;
@@ -68,7 +76,7 @@ struct ExitRequest {
 };
 
 using CommandRequest = std::variant<PublishOptions, LaunchOptions, DevicesOptions, DeviceRunOptions,
-                                    EvaluateOptions, ExitRequest>;
+                                    EvaluateOptions, SettingsOptions, ExitRequest>;
 
 /// Reads the command line and makes its paths absolute; help goes to `out`, a complaint to
 /// `error`.

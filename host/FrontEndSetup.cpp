@@ -20,6 +20,11 @@ FrontEndSetup::FrontEndSetup(const CallOptions& options) {
   if (!options.script.empty()) Set(kScriptVariable, options.script.string());
 }
 
+FrontEndSetup::FrontEndSetup(const CallOptions& options, const nlohmann::ordered_json& answers)
+    : FrontEndSetup(options) {
+  UseAnswers(answers);
+}
+
 FrontEndSetup::FrontEndSetup(const PublishOptions& options, bool forIos, SheetUse use)
     : FrontEndSetup(options) {
   if (!options.certificate.empty()) SetUpSigning(options, forIos, use);
@@ -37,7 +42,11 @@ void FrontEndSetup::Set(const std::string& name, const std::string& value) {
 void FrontEndSetup::SetUpSigning(const PublishOptions& options, bool forIos, SheetUse use) {
   const SigningMaterial material = {options.certificate, PasswordOf(options),
                                     options.provisioningProfile};
-  ownScript_.emplace(SigningAnswers(material, forIos, use).dump(2) + "\n");
+  UseAnswers(SigningAnswers(material, forIos, use));
+}
+
+void FrontEndSetup::UseAnswers(const nlohmann::ordered_json& answers) {
+  ownScript_.emplace(answers.dump(2) + "\n");
   Set(kScriptVariable, ownScript_->Path().string());
 }
 

@@ -17,6 +17,9 @@ class FrontEndSetup {
  public:
   explicit FrontEndSetup(const CallOptions& options);
 
+  /// Gives the front end these answers.
+  FrontEndSetup(const CallOptions& options, const nlohmann::ordered_json& answers);
+
   /// Asks for the password on the terminal when a certificate comes without a place for it;
   /// throws Refusal when there is no answer.
   FrontEndSetup(const PublishOptions& options, bool forIos, SheetUse use);
@@ -28,6 +31,7 @@ class FrontEndSetup {
 
  private:
   void Set(const std::string& name, const std::string& value);
+  void UseAnswers(const nlohmann::ordered_json& answers);
   void SetUpSigning(const PublishOptions& options, bool forIos, SheetUse use);
   PasswordReference PasswordOf(const PublishOptions& options);
 

@@ -52,6 +52,10 @@ std::string LaunchScript(const LaunchOptions& options, const Document& document)
               {first, second, Quoted(options.common.runtimeLevel), profile});
 }
 
+std::string SettingsScript(const CommonOptions& options, const Document& document) {
+  return CallForDocument("OpenSettingDialog", options, document);
+}
+
 // Listens to what the library reports to the host.
 std::string DeviceListScript(const CommonOptions& options, const Document& document) {
   return "var serials = ''; "

@@ -15,6 +15,9 @@ std::string PublishScript(const CommonOptions& options, const Document& document
 /// `TestMovie`, or `DebugMovie` for a run under the debugger.
 std::string LaunchScript(const LaunchOptions& options, const Document& document);
 
+/// Opens the settings sheet.
+std::string SettingsScript(const CommonOptions& options, const Document& document);
+
 /// Gives the serials, one per line; throws when there is none.
 std::string DeviceListScript(const CommonOptions& options, const Document& document);
 

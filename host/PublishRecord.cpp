@@ -25,6 +25,10 @@ void PublishRecord::Take(const nlohmann::json& event) {
   }
   if (Has(event, "event", "message") && !Has(event, "icon", "information")) warned_ = true;
   if (Has(event, "event", "sheet")) sheetOpened_ = true;
+  if (Has(event, "event", "closed") && Has(event, "class", kSheetClass)) {
+    sheetAnswer_ = event.value("answer", nlohmann::json()).is_string() ? event["answer"] : "";
+  }
+  if (Has(event, "event", "controls")) pagesShown_.push_back(event);
   if (Has(event, "event", "pressed") && Has(event, "button", "Publish")) publishPressed_ = true;
 }
 

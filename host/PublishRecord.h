@@ -1,8 +1,13 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
 
 namespace qutav::host {
+
+/// The class of the settings sheet.
+inline constexpr const char* kSheetClass = "CSettingsPropSheet";
 
 /// The class of the dialog that stands while the packaging tool runs.
 inline constexpr const char* kProgressDialogClass = "CProgressDlg";
@@ -30,6 +35,12 @@ class PublishRecord {
 
   bool SheetOpened() const { return sheetOpened_; }
 
+  /// The button by which the settings sheet was left the last time, empty for none.
+  const std::string& SheetAnswer() const { return sheetAnswer_; }
+
+  /// The pages of the sheet whose controls the script wanted to see.
+  const std::vector<nlohmann::json>& PagesShown() const { return pagesShown_; }
+
  private:
   bool empty_ = true;
   bool packagingStarted_ = false;
@@ -37,6 +48,8 @@ class PublishRecord {
   bool warned_ = false;
   bool sheetOpened_ = false;
   bool publishPressed_ = false;
+  std::string sheetAnswer_;
+  std::vector<nlohmann::json> pagesShown_;
 };
 
 }  // namespace qutav::host

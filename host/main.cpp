@@ -12,6 +12,7 @@
 #include "host/ProcessState.h"
 #include "host/PublishCommand.h"
 #include "host/Refusal.h"
+#include "host/SettingsCommand.h"
 #include "host/Terminal.h"
 
 namespace qutav::host {
@@ -26,6 +27,9 @@ int Run(const CommandRequest& request, Console& console) {
   }
   if (const auto* devices = std::get_if<DevicesOptions>(&request)) {
     return RunDevices(*devices, console);
+  }
+  if (const auto* settings = std::get_if<SettingsOptions>(&request)) {
+    return RunSettings(*settings, console);
   }
   if (const auto* deviceRun = std::get_if<DeviceRunOptions>(&request)) {
     return RunOnDevices(*deviceRun, console);
