@@ -6,6 +6,8 @@
 
 #include "host/ExitCodes.h"
 #include "host/RuntimeLevel.h"
+#include "platform/Environment.h"
+#include "platform/Utf8Path.h"
 
 namespace qutav::host {
 namespace {
@@ -16,15 +18,22 @@ const CLI::Validator kRuntimeLevel(
     },
     "");
 
+CLI::Option* AddPathOption(CLI::App& command, const std::string& name,
+                           std::filesystem::path& target, const std::string& description) {
+  return command
+      .add_option_function<std::string>(
+          name, [&target](const std::string& text) { target = PathFromUtf8(text); }, description)
+      ->type_name("FILE");
+}
+
 void AddCommonOptions(CLI::App& command, CommonOptions& options) {
-  command.add_option("DOCUMENT", options.document, "the document, a .qud.json file")
-      ->type_name("FILE")
+  AddPathOption(command, "DOCUMENT", options.document, "the document, a .qud.json file")
       ->required();
   command.add_option("--language", options.languageCode, "language of the interface")
       ->type_name("CODE")
       ->capture_default_str();
-  command.add_option("--library", options.library, "the library, by default beside this command")
-      ->type_name("FILE");
+  AddPathOption(command, "--library", options.library,
+                "the library, by default beside this command");
   command.add_flag("--verbose", options.verbose, "also tell about scripts that fail");
 }
 
@@ -36,19 +45,15 @@ void AddRuntimeLevel(CLI::App& command, CommonOptions& options) {
 }
 
 CLI::Option* AddScript(CLI::App& command, CallOptions& options) {
-  return command
-      .add_option("--script", options.script, "answers for the library's dialogs, a JSON file")
-      ->type_name("FILE");
+  return AddPathOption(command, "--script", options.script,
+                       "answers for the library's dialogs, a JSON file");
 }
 
 void AddCallOptions(CLI::App& command, CallOptions& options) {
   AddCommonOptions(command, options.common);
   AddRuntimeLevel(command, options.common);
-  command
-      .add_option("--transcript", options.transcript,
-                  "file to which everything that is shown is appended")
-      ->type_name("FILE")
-      ->envname("QUTAV_TRANSCRIPT");
+  AddPathOption(command, "--transcript", options.transcript,
+                "file to which everything that is shown is appended (Env:QUTAV_TRANSCRIPT)");
 }
 
 void AddNoExport(CLI::App& command, CallOptions& options) {
@@ -58,19 +63,15 @@ void AddNoExport(CLI::App& command, CallOptions& options) {
 }
 
 CLI::Option* AddCertificate(CLI::App& command, PublishOptions& options) {
-  CLI::Option* certificate =
-      command
-          .add_option("--certificate", options.certificate, "keystore to sign with (.p12, .jks)")
-          ->type_name("FILE");
+  CLI::Option* certificate = AddPathOption(command, "--certificate", options.certificate,
+                                           "keystore to sign with (.p12, .jks)");
   CLI::Option* variable = command
                               .add_option("--password-env", options.passwordVariable,
                                           "environment variable that holds the keystore's password")
                               ->type_name("NAME")
                               ->needs(certificate);
-  command
-      .add_option("--password-file", options.passwordFile,
-                  "file that holds the keystore's password")
-      ->type_name("FILE")
+  AddPathOption(command, "--password-file", options.passwordFile,
+                "file that holds the keystore's password")
       ->needs(certificate)
       ->excludes(variable);
   return certificate;
@@ -80,10 +81,8 @@ void AddPublishOptions(CLI::App& command, PublishOptions& options) {
   AddCallOptions(command, options);
   AddNoExport(command, options);
   CLI::Option* certificate = AddCertificate(command, options);
-  command
-      .add_option("--provisioning-profile", options.provisioningProfile,
-                  "provisioning profile for iOS")
-      ->type_name("FILE")
+  AddPathOption(command, "--provisioning-profile", options.provisioningProfile,
+                "provisioning profile for iOS")
       ->needs(certificate);
   AddScript(command, options)->excludes(certificate);
   command.footer(
@@ -183,6 +182,9 @@ void MakePathsAbsolute(CommonOptions& options) {
 
 void MakePathsAbsolute(CallOptions& options) {
   MakePathsAbsolute(options.common);
+  if (options.transcript.empty()) {
+    options.transcript = PathFromUtf8(EnvironmentText("QUTAV_TRANSCRIPT").value_or(""));
+  }
   MakeAbsolute({&options.script, &options.transcript});
 }
 

@@ -9,6 +9,7 @@
 
 #include "host/AtomicFile.h"
 #include "host/DocumentChecks.h"
+#include "platform/Utf8Path.h"
 
 namespace qutav::host {
 namespace {
@@ -84,7 +85,7 @@ Document Document::Load(const fs::path& file) {
 
 fs::path Document::MoviePath() const {
   const std::string stored = TextMember("movie", "");
-  const fs::path name = stored.empty() ? MovieNameFor(path_) : fs::path(stored);
+  const fs::path name = stored.empty() ? MovieNameFor(path_) : PathFromUtf8(stored);
   return (path_.parent_path() / name).lexically_normal();
 }
 

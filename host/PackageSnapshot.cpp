@@ -9,6 +9,8 @@
 #include <string>
 #include <system_error>
 
+#include "platform/Utf8Path.h"
+
 namespace qutav::host {
 namespace {
 
@@ -58,7 +60,7 @@ std::set<fs::path> PackageFolders(const Document& document) {
   for (const char* key : kDestinationKeys) {
     const auto stored = document.Data(key);
     if (!stored || !stored->is_string()) continue;
-    const fs::path destination = movieFolder / stored->get<std::string>();
+    const fs::path destination = movieFolder / PathFromUtf8(stored->get<std::string>());
     folders.insert(destination.lexically_normal().parent_path());
   }
   return folders;

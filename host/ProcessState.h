@@ -2,11 +2,15 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace qutav::host {
 
 /// The running executable.
 std::filesystem::path ExecutableFile();
+
+/// The arguments of this process in UTF-8, from what `main` was given where that tells them whole.
+std::vector<std::string> ProcessArguments(int count, const char* const* arguments);
 
 /// Takes back a caller's wish to hear nothing of its children: without their exit codes nobody can
 /// tell what became of them.

@@ -1,6 +1,8 @@
 #include <exception>
 #include <iostream>
+#include <string>
 #include <variant>
+#include <vector>
 
 #include "host/CommandLine.h"
 #include "host/Console.h"
@@ -58,6 +60,12 @@ int RunReported(const CommandRequest& request, Console& console) {
 int main(int count, char** arguments) {
   using namespace qutav::host;
   ListenToChildren();
+  ShowUtf8();
+  const std::vector<std::string> texts = ProcessArguments(count, arguments);
+  std::vector<const char*> pointers;
+  for (const std::string& text : texts) pointers.push_back(text.c_str());
   Console console(std::cout, std::cerr, StandardErrorIsTerminal());
-  return RunReported(ParseCommandLine(count, arguments, std::cout, std::cerr), console);
+  return RunReported(
+      ParseCommandLine(static_cast<int>(pointers.size()), pointers.data(), std::cout, std::cerr),
+      console);
 }

@@ -12,6 +12,10 @@ namespace qutav::host {
 
 std::filesystem::path ExecutableFile() { return std::filesystem::read_symlink("/proc/self/exe"); }
 
+std::vector<std::string> ProcessArguments(int count, const char* const* arguments) {
+  return {arguments, arguments + count};
+}
+
 void ListenToChildren() { signal(SIGCHLD, SIG_DFL); }
 
 void SetEnvironment(const std::string& name, const std::string& value) {

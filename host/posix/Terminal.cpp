@@ -66,6 +66,8 @@ bool StandardInputIsTerminal() { return isatty(STDIN_FILENO) == 1; }
 
 bool StandardErrorIsTerminal() { return isatty(STDERR_FILENO) == 1; }
 
+void ShowUtf8() {}  // as terminals do
+
 std::optional<std::string> ReadPassword(const std::string& prompt) {
   const FileDescriptor terminal(open("/dev/tty", O_RDWR | O_CLOEXEC));
   if (!terminal.IsOpen()) return std::nullopt;

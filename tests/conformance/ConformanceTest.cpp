@@ -1,6 +1,5 @@
 // The built library, loaded as a host loads it and entered through its export alone.
 
-#include <dlfcn.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,9 +7,12 @@
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <random>
 #include <sstream>
 
+#include "EnvironmentVariable.h"
 #include "FakeHost.h"
+#include "conformance/System.h"
 #include "platform/Text.h"
 
 namespace qutav::test {
@@ -25,8 +27,8 @@ constexpr std::uint32_t kWholeTable = 448;
 
 // A host loads the library once and never lets it go.
 void* TheLibrary() {
-  static void* library = dlopen(QUTAV_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-  EXPECT_NE(library, nullptr) << dlerror();
+  static void* library = LoadLibraryFile(QUTAV_LIBRARY);
+  EXPECT_NE(library, nullptr);
   return library;
 }
 
@@ -43,13 +45,13 @@ fs::path suiteFolder;
 class HostEnvironmentVariables : public ::testing::Environment {
  public:
   void SetUp() override {
-    char pattern[] = "/tmp/qutav-conformance-XXXXXX";
-    suiteFolder = mkdtemp(pattern);
-    setenv("QUTAV_TRANSCRIPT", (suiteFolder / "transcript.jsonl").c_str(), 1);
-    setenv("XDG_CONFIG_HOME", (suiteFolder / "config").c_str(), 1);
-    setenv("TMPDIR", suiteFolder.c_str(), 1);
-    setenv("CommonProgramFiles", (suiteFolder / "common").c_str(), 1);
-    setenv("QUTAV_SCRIPT", (suiteFolder / "script.json").c_str(), 1);
+    do {
+      suiteFolder = fs::temp_directory_path() /
+                    ("qutav-conformance-" + std::to_string(std::random_device()()));
+    } while (!fs::create_directory(suiteFolder));
+    PutEnvironment("QUTAV_TRANSCRIPT", (suiteFolder / "transcript.jsonl").string());
+    PutEnvironment("QUTAV_SCRIPT", (suiteFolder / "script.json").string());
+    KeepInFolder(suiteFolder);
     // Only the English sheet is answered.
     std::ofstream(suiteFolder / "script.json")
         << R"({"answers": [{"to": "sheet", "title": "TAV for Android Settings", "repeat": true,
@@ -58,24 +60,16 @@ class HostEnvironmentVariables : public ::testing::Environment {
         << (suiteFolder / "my.p12").string() << R"(", "Password:": "secret"},
                 "press": ["Publish", "Cancel"]}]})";
     std::ofstream(suiteFolder / "my.p12") << "a keystore";
-    InstallTool();
+    InstallTool(suiteFolder);
+    InstallAdb(suiteFolder / "sdk");
   }
 
-  // In Java's place: keeps its arguments and ends as the file "ending" says.
-  static void InstallTool() {
-    const fs::path bin = suiteFolder / "common/Zenvoka/Zenvoka Kestrow 2020/jre/bin";
-    fs::create_directories(bin);
-    std::ofstream(bin / "java") << "#!/bin/sh\nprintf '%s\\n' \"$@\" > '"
-                                << (suiteFolder / "arguments").string() << "'\n. '"
-                                << (suiteFolder / "ending").string() << "'\n";
-    fs::permissions(bin / "java", fs::perms::owner_all);
-    // And one in the place of adb, which knows no device.
-    const fs::path adb = suiteFolder / "sdk/lib/android/bin/adb";
-    fs::create_directories(adb.parent_path());
-    std::ofstream(adb) << "#!/bin/sh\n";
-    fs::permissions(adb, fs::perms::owner_all);
+  void TearDown() override {
+    RemoveTool();
+    // The library has its transcript open, which keeps the folder on some systems.
+    std::error_code ignored;
+    fs::remove_all(suiteFolder, ignored);
   }
-  void TearDown() override { fs::remove_all(suiteFolder); }
 };
 
 const auto* const theVariables = ::testing::AddGlobalTestEnvironment(new HostEnvironmentVariables);
@@ -83,12 +77,10 @@ const auto* const theVariables = ::testing::AddGlobalTestEnvironment(new HostEnv
 class ConformanceTest : public ::testing::Test {
  protected:
   ConformanceTest() : library(TheLibrary()) {
-    enter = reinterpret_cast<Entry>(dlsym(library, "KR_InitWrapper"));
+    enter = reinterpret_cast<Entry>(ExportOf(library, "KR_InitWrapper"));
     folder = suiteFolder / ::testing::UnitTest::GetInstance()->current_test_info()->name();
     fs::create_directories(folder);
-    host.uriToPath = [](const std::u16string& uri) {
-      return ReplaceAll(ReplaceAll(uri.substr(7), u"%20", u" "), u"/", u"\\");
-    };
+    host.uriToPath = PathOfUri;
     transcriptStart = ReadAll(suiteFolder / "transcript.jsonl").size();
   }
 
@@ -106,7 +98,8 @@ class ConformanceTest : public ::testing::Test {
   }
 
   std::u16string Uri(const fs::path& path) const {
-    return u"file://" + ReplaceAll(FromUtf8(path.string()), u" ", u"%20");
+    const std::u16string text = ReplaceAll(path.generic_u16string(), u" ", u"%20");
+    return (text.starts_with(u'/') ? u"file://" : u"file:///") + text;
   }
 
   std::int32_t Publish(const std::u16string& movie) {
@@ -146,16 +139,9 @@ TEST_F(ConformanceTest, TheEntryDefinesTheSevenFunctionsInOrder) {
 }
 
 TEST_F(ConformanceTest, NothingButTheEntryIsExported) {
-  EXPECT_NE(dlsym(library, "KR_InitWrapper"), nullptr);
+  EXPECT_NE(ExportOf(library, "KR_InitWrapper"), nullptr);
 
-  std::ostringstream command;
-  command << "nm -D --defined-only '" << QUTAV_LIBRARY << "' | awk '{print $3}' | sort";
-  FILE* pipe = popen(command.str().c_str(), "r");
-  ASSERT_NE(pipe, nullptr);
-  std::string names;
-  for (int c = fgetc(pipe); c != EOF; c = fgetc(pipe)) names += static_cast<char>(c);
-  EXPECT_EQ(pclose(pipe), 0);
-  EXPECT_EQ(names, "KR_InitWrapper\n");
+  EXPECT_THAT(ExportedNames(QUTAV_LIBRARY), ElementsAre("KR_InitWrapper"));
 }
 
 TEST_F(ConformanceTest, ATableWithoutDefineFunctionDefinesNothing) {
@@ -261,9 +247,9 @@ class WholePublishTest : public ConformanceTest {
 };
 
 TEST_F(WholePublishTest, AFinishedToolIsToldAsAPackage) {
-  EXPECT_THAT(PublishAndListMessages("exit 0"), ElementsAre("APK file has been created."));
+  EXPECT_THAT(PublishAndListMessages("0"), ElementsAre("APK file has been created."));
 
-  const std::string movieFolder = folder.string() + "/";
+  const std::string movieFolder = folder.generic_string() + "/";
   const auto arguments = Arguments();
   ASSERT_GE(arguments.size(), 2u);
   EXPECT_EQ(arguments[0], "-jar");
@@ -275,12 +261,12 @@ TEST_F(WholePublishTest, AFinishedToolIsToldAsAPackage) {
 }
 
 TEST_F(WholePublishTest, AFailedToolIsToldByItsWords) {
-  EXPECT_THAT(PublishAndListMessages("echo 'Game-app.xml: error 303: icon'; exit 1"),
+  EXPECT_THAT(PublishAndListMessages("1\nGame-app.xml: error 303: icon"),
               ElementsAre("Error creating files.\n\nIcon file is missing."));
 }
 
 TEST_F(WholePublishTest, ThePasswordIsMaskedInTheTranscript) {
-  PublishAndListMessages("exit 0");
+  PublishAndListMessages("0");
 
   for (const auto& event : Shown()) {
     EXPECT_EQ(event.dump().find("secret"), std::string::npos) << event.dump();

@@ -6,7 +6,7 @@
 
 #include "framework/CPropertySheet.h"
 #include "platform/Text.h"
-#include "platform/posix/SystemServices.h"
+#include "platform/catalogue/CatalogueLanguages.h"
 #include "platform/standard/StandardServices.h"
 
 namespace qutav::test {
@@ -252,13 +252,13 @@ std::vector<std::u16string> FakeProcesses::CommandLines() const {
 RecordingLanguage::RecordingLanguage() = default;
 
 LanguageId RecordingLanguage::ThreadInterfaceLanguage() {
-  return SystemLanguage().ThreadInterfaceLanguage();
+  return CatalogueLanguageService().ThreadInterfaceLanguage();
 }
 
 LanguageId RecordingLanguage::SetThreadInterfaceLanguage(LanguageId id) {
   switches.push_back(id);
   if (refused.contains(id)) return current;
-  current = SystemLanguage().SetThreadInterfaceLanguage(id);
+  current = CatalogueLanguageService().SetThreadInterfaceLanguage(id);
   return current;
 }
 
@@ -266,7 +266,8 @@ int RecordingLanguage::LoadString(const std::u16string& module, std::uint32_t id
                                   int capacity) {
   capacities.push_back(capacity);
   const auto own = texts.find(id);
-  if (own == texts.end()) return SystemLanguage().LoadString(module, id, buffer, capacity);
+  if (own == texts.end())
+    return CatalogueLanguageService().LoadString(module, id, buffer, capacity);
   const std::size_t length = std::min(own->second.size(), static_cast<std::size_t>(capacity) - 1);
   std::copy_n(own->second.begin(), length, buffer);
   buffer[length] = u'\0';

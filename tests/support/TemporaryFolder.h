@@ -1,13 +1,14 @@
 // Real files for tests of what touches the machine.
 #pragma once
 
-#include <cstdlib>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
-#include "platform/posix/Path.h"
+#include "platform/Utf8Path.h"
 
 namespace qutav::test {
 
@@ -15,9 +16,11 @@ namespace qutav::test {
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    std::string pattern =
-        std::filesystem::temp_directory_path() / "qutav t\xC3\xA9st \xE3\x81\x82 XXXXXX";
-    path_ = mkdtemp(pattern.data());
+    std::random_device random;
+    do {
+      path_ = std::filesystem::temp_directory_path() /
+              PathFromUtf8("qutav t\xC3\xA9st \xE3\x81\x82 " + std::to_string(random()));
+    } while (!std::filesystem::create_directory(path_));
   }
   ~TemporaryFolder() {
     std::error_code ignored;
@@ -27,20 +30,22 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   const std::filesystem::path& Native() const { return path_; }
-  std::filesystem::path Native(const std::string& name) const { return path_ / name; }
+  std::filesystem::path Native(const std::string& name) const { return path_ / PathFromUtf8(name); }
 
   /// The Windows-form path of a name in the folder.
   std::u16string Path(const std::string& name) const {
-    return WindowsForm((path_ / name).string());
+    std::u16string path = Native(name).u16string();
+    std::replace(path.begin(), path.end(), u'/', u'\\');
+    return path;
   }
 
   void Put(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path_ / name, std::ios::binary) << bytes;
+    std::ofstream(Native(name), std::ios::binary) << bytes;
   }
 
   /// The bytes of a file; "(none)" when there is none.
   std::string BytesOf(const std::string& name) const {
-    std::ifstream stream(path_ / name, std::ios::binary);
+    std::ifstream stream(Native(name), std::ios::binary);
     if (!stream) return "(none)";
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
   }

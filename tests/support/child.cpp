@@ -9,15 +9,7 @@
 //   environment NAME  prints the variable
 //   folder            prints the current folder
 //   input             prints what it reads from standard input, then "end"
-//   hang              tells its process id and runs until it is killed
-//   family            starts a child that hangs, hangs itself, and both tell their process ids
-//   orphan            hangs with a grandchild that hangs and has lost its parent; both tell their
-//                     process ids
-//   leave             starts a child that hangs, tells its process id and ends
-#include <sys/types.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
+// and what ChildProcesses.h adds.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -27,31 +19,9 @@
 #include <string_view>
 #include <vector>
 
+#include "ChildProcesses.h"
+
 namespace {
-
-[[noreturn]] void HangSilently() {
-  while (true) pause();
-}
-
-[[noreturn]] void Hang() {
-  std::cout << getpid() << std::endl;
-  HangSilently();
-}
-
-void LeaveAChild() {
-  const pid_t child = fork();
-  if (child == 0) HangSilently();
-  std::cout << child;
-}
-
-void LoseAGrandchild() {
-  const pid_t child = fork();
-  if (child != 0) {
-    waitpid(child, nullptr, 0);
-  } else if (fork() != 0) {
-    _exit(0);
-  }
-}
 
 void Flood(std::size_t count) {
   const std::string line = std::string(99, 'x') + "\n";
@@ -97,17 +67,7 @@ int Run(std::string_view order, const std::vector<std::string>& values) {
     std::cout << std::filesystem::current_path().string();
   } else if (order == "input") {
     PrintInput();
-  } else if (order == "hang") {
-    Hang();
-  } else if (order == "family") {
-    fork();
-    Hang();
-  } else if (order == "orphan") {
-    LoseAGrandchild();
-    Hang();
-  } else if (order == "leave") {
-    LeaveAChild();
-  } else {
+  } else if (!qutav::test::RunProcessOrder(order)) {
     return 64;
   }
   return 0;
@@ -116,6 +76,7 @@ int Run(std::string_view order, const std::vector<std::string>& values) {
 }  // namespace
 
 int main(int count, char** arguments) {
+  qutav::test::PrepareStreams();
   const std::vector<std::string> all(arguments + 1, arguments + count);
   if (all.empty()) return 64;
   return Run(all.front(), {all.begin() + 1, all.end()});

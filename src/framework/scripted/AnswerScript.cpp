@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
+
+#include "platform/Environment.h"
+#include "platform/Utf8Path.h"
 
 namespace qutav {
 namespace {
@@ -21,7 +24,7 @@ const Members kAnswerMembers = {"to",    "contains", "class", "title",  "select"
 constexpr std::array<std::string_view, 5> kKinds = {"message", "dialog", "sheet", "file", "folder"};
 
 std::string ReadSecretFile(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
+  std::ifstream stream(PathFromUtf8(path), std::ios::binary);
   if (!stream) throw std::runtime_error("cannot read the file " + path);
   std::ostringstream bytes;
   bytes << stream.rdbuf();
@@ -33,9 +36,9 @@ std::string ReadSecretFile(const std::string& path) {
 }
 
 std::string ReadVariable(const std::string& name) {
-  const char* value = std::getenv(name.c_str());
-  if (value == nullptr) throw std::runtime_error("the variable " + name + " is not set");
-  return value;
+  auto value = EnvironmentText(name);
+  if (!value) throw std::runtime_error("the variable " + name + " is not set");
+  return std::move(*value);
 }
 
 std::string ValueText(const json& value) {

@@ -1,7 +1,6 @@
 #include "framework/scripted/ScriptedFrontEnd.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
@@ -10,8 +9,10 @@
 #include "framework/CPropertySheet.h"
 #include "framework/scripted/ControlRecord.h"
 #include "framework/scripted/StepPlayer.h"
+#include "platform/Environment.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
+#include "platform/Utf8Path.h"
 
 namespace qutav {
 namespace {
@@ -223,10 +224,10 @@ Rectangle ScriptedFrontEnd::DialogRectangle(const CDialog& dialog) {
 
 namespace {
 
-AnswerScript ReadScriptFile(const char* path) {
-  if (path == nullptr || *path == '\0') return {};
+AnswerScript ReadScriptFile(const std::string& path) {
+  if (path.empty()) return {};
   try {
-    std::ifstream stream(path);
+    std::ifstream stream{PathFromUtf8(path)};
     if (!stream) throw std::runtime_error("it cannot be opened");
     return AnswerScript::Parse(nlohmann::json::parse(stream));
   } catch (const std::exception& mistake) {
@@ -237,16 +238,16 @@ AnswerScript ReadScriptFile(const char* path) {
 
 Transcript& EnvironmentTranscript() {
   static Transcript console(std::cerr);
-  const char* path = std::getenv("QUTAV_TRANSCRIPT");
-  if (path == nullptr || *path == '\0') return console;
-  static Transcript file{std::string(path)};
+  const std::string path = EnvironmentText("QUTAV_TRANSCRIPT").value_or("");
+  if (path.empty()) return console;
+  static Transcript file(path);
   return file;
 }
 
 }  // namespace
 
 ScriptedFrontEnd& EnvironmentFrontEnd() {
-  static ScriptedFrontEnd frontEnd(ReadScriptFile(std::getenv("QUTAV_SCRIPT")),
+  static ScriptedFrontEnd frontEnd(ReadScriptFile(EnvironmentText("QUTAV_SCRIPT").value_or("")),
                                    EnvironmentTranscript());
   return frontEnd;
 }

@@ -3,6 +3,8 @@
 #include <fstream>
 #include <iostream>
 
+#include "platform/Utf8Path.h"
+
 namespace qutav {
 namespace {
 
@@ -25,7 +27,7 @@ std::string ConsoleText(const Json& event) {
 }  // namespace
 
 Transcript::Transcript(const std::string& path)
-    : file_(std::make_unique<std::ofstream>(path, std::ios::app | std::ios::binary)) {
+    : file_(std::make_unique<std::ofstream>(PathFromUtf8(path), std::ios::app | std::ios::binary)) {
   if (!*file_) std::cerr << "The transcript " << path << " cannot be written.\n";
 }
 

@@ -1,6 +1,7 @@
 #include "platform/posix/SystemServices.h"
 
 #include "platform/Services.h"
+#include "platform/catalogue/CatalogueLanguages.h"
 #include "platform/standard/StandardServices.h"
 
 namespace qutav {
@@ -12,7 +13,7 @@ void InstallSystemServices() {
   services.clock = &StandardClock();
   services.registry = &SystemRegistry();
   services.folders = &SystemFolders();
-  services.language = &SystemLanguage();
+  services.language = &CatalogueLanguageService();
   services.networkTables = &SystemNetworkTables();
   services.threads = &StandardThreads();
   services.images = &SystemImages();

@@ -6,7 +6,6 @@ namespace qutav {
 class Files;
 class Folders;
 class Images;
-class Language;
 class NetworkTables;
 class Processes;
 class Registry;
@@ -14,7 +13,6 @@ class Registry;
 Files& SystemFiles();
 Folders& SystemFolders();
 Images& SystemImages();
-Language& SystemLanguage();
 NetworkTables& SystemNetworkTables();
 Processes& SystemProcesses();
 Registry& SystemRegistry();

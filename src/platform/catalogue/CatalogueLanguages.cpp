@@ -1,9 +1,9 @@
-#include "platform/Language.h"
+#include "platform/catalogue/CatalogueLanguages.h"
 
 #include <algorithm>
 
 #include "platform/Catalogue.h"
-#include "platform/posix/SystemServices.h"
+#include "platform/Language.h"
 
 namespace qutav {
 namespace {
@@ -27,7 +27,7 @@ const CatalogueText* FindText(LanguageId language, std::uint32_t id) {
 
 class CatalogueLanguages final : public Language {
  public:
-  // A POSIX thread has no Windows locale; English stands for it.
+  // A thread of this service has no locale; English stands for it.
   std::uint32_t ThreadLocale() override { return kEnglish; }
 
   LanguageId ThreadInterfaceLanguage() override { return threadInterfaceLanguage; }
@@ -52,7 +52,7 @@ class CatalogueLanguages final : public Language {
 
 }  // namespace
 
-Language& SystemLanguage() {
+Language& CatalogueLanguageService() {
   static CatalogueLanguages languages;
   return languages;
 }

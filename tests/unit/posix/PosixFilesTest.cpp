@@ -11,6 +11,7 @@
 #include "TemporaryFolder.h"
 #include "platform/Files.h"
 #include "platform/posix/FileReplacement.h"
+#include "platform/posix/Path.h"
 #include "platform/posix/SystemServices.h"
 
 namespace qutav::test {

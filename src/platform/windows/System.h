@@ -1,0 +1,6 @@
+// The system's header, without those of its macros that take names of ours.
+#pragma once
+
+#include <windows.h>
+
+#undef LoadString

@@ -1,0 +1,74 @@
+#!/usr/bin/python3
+"""Runs a command with a display and a Wine prefix of its own, and ends both afterwards.
+
+usage: session.py WINE_PREFIX COMMAND [ARGUMENT...]"""
+
+import contextlib
+import os
+import shutil
+import subprocess
+import sys
+
+SCREEN = "1280x1024x24"
+
+
+def refuse(why):
+    sys.exit(f"The Windows tests cannot run: {why}")
+
+
+@contextlib.contextmanager
+def display():
+    """An X server on a display that it finds free; its name."""
+    if shutil.which("Xvfb") is None:
+        refuse("Xvfb is not installed")
+    read_end, write_end = os.pipe()
+    with subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", SCREEN, "-nolisten", "tcp"],
+            pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as server:
+        os.close(write_end)
+        with os.fdopen(read_end) as stream:
+            number = stream.readline().strip()
+        if not number:
+            refuse("Xvfb does not start")
+        try:
+            yield f":{number}"
+        finally:
+            server.terminate()
+
+
+@contextlib.contextmanager
+def wine(prefix, environment):
+    """A Wine prefix, made at the first time."""
+    if shutil.which("wine") is None:
+        refuse("Wine is not installed")
+    os.makedirs(prefix, exist_ok=True)
+    try:
+        booted = subprocess.run(["wine", "wineboot", "--init"], env=environment, check=False,
+                                capture_output=True, timeout=180)
+        answer = subprocess.run(["wine", "cmd", "/c", "echo", "ready"], env=environment,
+                                check=False, capture_output=True, text=True, timeout=60)
+        if booted.returncode != 0 or answer.stdout.strip() != "ready":
+            refuse("Wine does not start: " + booted.stderr.decode() + answer.stderr)
+        yield
+    except subprocess.TimeoutExpired as late:
+        refuse(f"Wine does not answer: {late}")
+    finally:
+        subprocess.run(["wineserver", "-k"], env=environment, check=False, capture_output=True)
+
+
+def main(prefix, command):
+    prefix = os.path.abspath(prefix)
+    # In any other character set Wine would lose what names of files hold.
+    environment = dict(os.environ, WINEPREFIX=prefix, WINEDEBUG="-all", LC_ALL="C.UTF-8",
+                       WINEDLLOVERRIDES="mscoree,mshtml=")
+    with display() as name:
+        environment["DISPLAY"] = name
+        with wine(prefix, environment):
+            return subprocess.run(command, env=environment, check=False,
+                                  stdin=subprocess.DEVNULL).returncode
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 3:
+        sys.exit(__doc__)
+    sys.exit(main(sys.argv[1], sys.argv[2:]))
