@@ -57,7 +57,7 @@ class HostEnvironmentVariables : public ::testing::Environment {
         << R"({"answers": [{"to": "sheet", "title": "TAV for Android Settings", "repeat": true,
                 "page": "Deployment",
                 "set": {"Certificate:": ")"
-        << (suiteFolder / "my.p12").string() << R"(", "Password:": "secret"},
+        << (suiteFolder / "my.p12").generic_string() << R"(", "Password:": "secret"},
                 "press": ["Publish", "Cancel"]}]})";
     std::ofstream(suiteFolder / "my.p12") << "a keystore";
     InstallTool(suiteFolder);
@@ -253,11 +253,12 @@ TEST_F(WholePublishTest, AFinishedToolIsToldAsAPackage) {
   const auto arguments = Arguments();
   ASSERT_GE(arguments.size(), 2u);
   EXPECT_EQ(arguments[0], "-jar");
-  EXPECT_THAT(std::vector<std::string>(arguments.begin() + 2, arguments.end()),
-              ElementsAre("-package", "-target", "apk-captive-runtime", "-arch", "armv7",
-                          "-storetype", "PKCS12", "-keystore", (suiteFolder / "my.p12").string(),
-                          "-storepass", "secret", movieFolder + "My Game.apk",
-                          movieFolder + "Game-app.xml", "-C", movieFolder, "Game.qmv"));
+  EXPECT_THAT(
+      std::vector<std::string>(arguments.begin() + 2, arguments.end()),
+      ElementsAre("-package", "-target", "apk-captive-runtime", "-arch", "armv7", "-storetype",
+                  "PKCS12", "-keystore", (suiteFolder / "my.p12").generic_string(), "-storepass",
+                  "secret", movieFolder + "My Game.apk", movieFolder + "Game-app.xml", "-C",
+                  movieFolder, "Game.qmv"));
 }
 
 TEST_F(WholePublishTest, AFailedToolIsToldByItsWords) {

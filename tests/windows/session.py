@@ -42,18 +42,23 @@ def wine(prefix, environment):
     if shutil.which("wine") is None:
         refuse("Wine is not installed")
     os.makedirs(prefix, exist_ok=True)
+    quiet = {"env": environment, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+    keeper = None
     try:
-        booted = subprocess.run(["wine", "wineboot", "--init"], env=environment, check=False,
-                                capture_output=True, timeout=180)
+        booted = subprocess.run(["wine", "wineboot", "--init"], check=False, timeout=180, **quiet)
+        # Wine's own services belong to whoever was the first, and would hold a test's output open.
+        keeper = subprocess.Popen(["wine", "cmd"], stdin=subprocess.PIPE, **quiet)
         answer = subprocess.run(["wine", "cmd", "/c", "echo", "ready"], env=environment,
                                 check=False, capture_output=True, text=True, timeout=60)
         if booted.returncode != 0 or answer.stdout.strip() != "ready":
-            refuse("Wine does not start: " + booted.stderr.decode() + answer.stderr)
+            refuse(f"Wine does not start (wineboot gave {booted.returncode}): {answer.stderr}")
         yield
     except subprocess.TimeoutExpired as late:
         refuse(f"Wine does not answer: {late}")
     finally:
         subprocess.run(["wineserver", "-k"], env=environment, check=False, capture_output=True)
+        if keeper is not None:
+            keeper.communicate()
 
 
 def main(prefix, command):

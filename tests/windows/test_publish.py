@@ -35,6 +35,11 @@ class Publish(unittest.TestCase):
         bin_folder.mkdir(parents=True, exist_ok=True)
         shutil.copy(BUILD / "tests" / "windows" / "java.exe", bin_folder)
         self.addCleanup(shutil.rmtree, PRODUCT.parent)
+        # The library looks for devices after a publish; this one finds none.
+        adb = BUILD / "TAV26.0" / "lib" / "android" / "bin" / "adb.exe"
+        adb.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(BUILD / "tests" / "windows" / "fake_tool.exe", adb)
+        self.addCleanup(adb.unlink)
         self.keystore = self.folder / "sample.p12"
         made = run("java", "-jar", BUILD / "TAV26.0/lib/KOB.jar", "-certificate",
                    "-cn", "Sample Publisher", "-ou", "Games", "-o", "Sample Studio", "-c", "US",
