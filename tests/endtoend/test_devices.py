@@ -6,7 +6,6 @@ import unittest
 from harness import DeviceTest, run, wait_until
 
 UNREACHABLE = "Unable to install the application. Ensure that the selected devices are connected."
-NOT_CONNECTED = "Connection failure! Ensure that all selected devices are connected."
 MADE = "APK file has been created."
 
 
@@ -44,12 +43,13 @@ class SeveralDevices(DeviceTest):
 
     def script_for(self, devices, *answers):
         script = self.folder / "script.json"
-        sheet = {"to": "sheet", "press": ["Publish", "Cancel"],
-                 "settings": {"com.tav.moresh.certpath": str(self.keystore),
-                              "com.tav.moresh.certpwd": {"environment": "SAMPLE_PASSWORD"},
-                              "com.tav.pelund.adbopt": "launch",
-                              "ipa.install.devices":
-                                  "".join(device.serial + ":" for device in devices)}}
+        sheet = {"to": "sheet", "page": "Deployment",
+                 "set": {"Certificate:": str(self.keystore),
+                         "Password:": {"environment": "SAMPLE_PASSWORD"},
+                         "Install application on the connected Android device": True},
+                 "steps": [{"set": {"Launch application on the connected Android device": True,
+                                    **{device.serial: True for device in devices}}},
+                           {"press": ["Publish", "Cancel"]}]}
         script.write_text(json.dumps({"answers": [*answers, sheet]}), encoding="utf-8")
         return script
 
@@ -87,23 +87,27 @@ class SeveralDevices(DeviceTest):
                 self.assertEqual(first.events("install")[-1]["sha256"],
                                  last.events("install")[-1]["sha256"])
 
-    def test_one_that_is_unplugged_stops_the_publish_before_packaging(self):
+    def test_one_that_is_unplugged_cannot_be_chosen(self):
         here, gone = self.farm.add("one"), self.farm.add("two")
         gone.pull_out()
 
         result = self.publish_to(here, gone)
 
-        self.assert_refused(result, NOT_CONNECTED)
+        self.assert_refused(result)
+        self.assertIn(f'no control "{gone.serial}" that takes this value', result.stderr)
         self.assert_untouched(here)
 
     def test_a_cancel_between_two_leaves_the_second_alone(self):
-        first, second = self.farm.add("one", hold_at="install"), self.farm.add("two")
+        devices = [self.farm.add(name, hold_at="install") for name in ("one", "two")]
         gate = self.folder / "gate"
         self.environment["QUTAV_TICK_GATE"] = str(gate)
-        script = self.script_for((first, second), {"to": "dialog", "class": "CProgressDlg",
+        script = self.script_for(devices, {"to": "dialog", "class": "CProgressDlg",
                                                    "after": 1, "press": "Cancel"})
         process = self.start(*self.command("publish", "--script", script))
-        first.wait_for("held")
+        # They are served in the order in which adb lists them.
+        first = wait_until(lambda: [device for device in devices if device.events("held")],
+                           "a device is served")[0]
+        second = devices[1 - devices.index(first)]
 
         gate.touch()
         wait_until(lambda: "closed" in [event["event"] for event in self.events()],

@@ -1,5 +1,6 @@
 """A signal that ends the command ends all that it has started, and removes its temporary files."""
 
+import json
 import unittest
 
 from harness import BUILD, PublishTest, run, wait_until
@@ -22,9 +23,9 @@ class Interrupt(PublishTest):
         started = self.folder / "started"
         self.install_tool(f"touch '{started}'\nsleep 1000\n")
         script = self.folder / "script.json"
-        script.write_text('{"answers": [{"to": "sheet", "press": ["Publish"], "settings":'
-                          ' {"com.tav.moresh.certpath": "k", "com.tav.moresh.certpwd": "p"}}]}',
-                          encoding="utf-8")
+        script.write_text(json.dumps({"answers": [
+            {"to": "sheet", "page": "Deployment", "press": "Publish",
+             "set": {"Certificate:": str(self.keystore), "Password:": "p"}}]}), encoding="utf-8")
         self.environment["QUTAV_SCRIPT"] = str(script)
         uris = [path.as_uri() for path in (self.document, self.game / "Game.qmv")]
         evaluate = self.start(str(BUILD / "qutav"), "evaluate", str(self.document),
