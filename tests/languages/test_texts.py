@@ -12,11 +12,7 @@ PRODUCT_NAMES = ["Zenvoka", "Kestrow", "Quorl", "TAV", "TAVI", "QMV", "APK", "An
                  "PFX", "XML", "USB", "CPU", "GPU", "ARMv7", "ARMv8", "Intel x86"]
 
 # Texts that are equal in English and not in every language, each with its reason.
-DIFFERENT_ON_PURPOSE = {
-    "8096": "agrees with the aspect ratio",
-    "8115": "agrees with nothing: it stands alone",
-    "8116": "agrees with the render mode",
-}
+DIFFERENT_ON_PURPOSE = {"8116": "agrees with the render mode, the others with the aspect ratio"}
 
 COLONS = (":", "：")
 ENDS_OF_SENTENCE = (".", "。")

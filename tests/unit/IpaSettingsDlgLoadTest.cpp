@@ -59,6 +59,18 @@ TEST_F(IpaSettingsDlgLoadTest, TheListsOfferTheirRowsAndNothingElse) {
   EXPECT_EQ(ComboOf(u"Render mode:").style, ComboStyle::kDropList);
 }
 
+TEST_F(IpaSettingsDlgLoadTest, EachListHasAWordOfItsOwnForAuto) {
+  language.texts[8115] = u"Automática";
+  language.texts[8116] = u"Automático";
+
+  Open();
+
+  EXPECT_THAT(ComboOf(u"Aspect ratio:").Rows(),
+              ElementsAre(u"Portrait", u"Landscape", u"Automática"));
+  EXPECT_THAT(ComboOf(u"Render mode:").Rows(),
+              ElementsAre(u"Automático", u"CPU", u"GPU", u"Direct"));
+}
+
 TEST_F(IpaSettingsDlgLoadTest, ThePageIsInitialisedOnceItIsShownAndNotChanged) {
   EXPECT_FALSE(page.initialised);
 
