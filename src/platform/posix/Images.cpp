@@ -2,11 +2,17 @@
 
 #include <png.h>
 
+#include <memory>
+
 #include "platform/Services.h"
 #include "platform/posix/SystemServices.h"
 
 namespace qutav {
 namespace {
+
+struct FreePng {
+  void operator()(png_image* header) const { png_image_free(header); }
+};
 
 bool IsReasonable(const png_image& header) {
   return header.width <= Images::kGreatestSide && header.height <= Images::kGreatestSide;
@@ -32,9 +38,8 @@ class PngImages final : public Images {
     png_image header{};
     header.version = PNG_IMAGE_VERSION;
     if (png_image_begin_read_from_memory(&header, bytes->data(), bytes->size()) == 0) return {};
-    auto image = IsReasonable(header) ? ReadPixels(header) : nullptr;
-    png_image_free(&header);
-    return image;
+    const std::unique_ptr<png_image, FreePng> guard(&header);
+    return IsReasonable(header) ? ReadPixels(header) : nullptr;
   }
 };
 
