@@ -165,6 +165,15 @@ TEST_F(AdvancedSettingsDlgTest, ASizeOfOneNumberFillsNothing) {
   EXPECT_EQ(Text(u"Maximum width:"), u"");
 }
 
+TEST_F(AdvancedSettingsDlgTest, ASizeOfTwoLinesFillsNothing) {
+  LoadChildren("<minSize>320\n240</minSize>");
+
+  page.Create();
+
+  EXPECT_EQ(Text(u"Minimum width:"), u"");
+  EXPECT_EQ(Text(u"Minimum height:"), u"");
+}
+
 TEST_F(AdvancedSettingsDlgTest, ASizeOfTwoWordsFillsNothing) {
   LoadChildren("<maxSize>very large</maxSize>");
 
@@ -431,6 +440,45 @@ TEST_F(AdvancedSettingsDlgTest, ATypeWithAnotherNameMovesToTheEndAndLosesItsOldR
   EXPECT_THAT(Types().Rows(), ElementsAre(u"Picture(pic)", u"Film(mov)"));
   EXPECT_FALSE(page.fileTypes.contains(u"Movie"));
   EXPECT_EQ(page.fileTypes[u"Film"].name, "Film");
+  EXPECT_EQ(page.fileTypes[u"Film"].storedName, "Movie");
+}
+
+TEST_F(AdvancedSettingsDlgTest, ATypeRenamedToAnotherOnesNameTakesItsRecordNotItsRow) {
+  LoadTypes(Type("Movie", "mov") + Type("Picture", "pic"));
+  page.Create();
+  Types().Choose(0);
+  AnswerDialog(u"Picture", u"mov");
+
+  PressButton(page, u"Edit file type");
+
+  EXPECT_THAT(Types().Rows(), ElementsAre(u"Picture(pic)", u"Picture(mov)"));
+  EXPECT_EQ(page.fileTypes.size(), 1u);
+  EXPECT_EQ(page.fileTypes[u"Picture"].extension, "mov");
+  EXPECT_EQ(page.fileTypes[u"Picture"].storedName, "Movie");
+}
+
+TEST_F(AdvancedSettingsDlgTest, ARowOfTheRecordThatTwoRowsShareStaysWhenNothingIsChanged) {
+  LoadTypes(Type("Movie", "mov"));
+  page.Create();
+  AnswerDialog(u"Movie", u"mp4");
+  PressButton(page, u"Add file type");
+  Types().Choose(1);
+  frontEnd.onDialog = [](CDialog& dialog) { PressButton(dialog, u"OK"); };
+
+  PressButton(page, u"Edit file type");
+
+  EXPECT_THAT(Types().Rows(), ElementsAre(u"Movie(mov)", u"Movie(mp4)"));
+}
+
+TEST_F(AdvancedSettingsDlgTest, ARowWhoseNameHasAnotherExtensionsRecordIsReplacedByItsRow) {
+  LoadTypes(Type("Movie", "mov") + Type("Movie", "mp4"));
+  page.Create();
+  Types().Choose(1);
+  frontEnd.onDialog = [](CDialog& dialog) { PressButton(dialog, u"OK"); };
+
+  PressButton(page, u"Edit file type");
+
+  EXPECT_THAT(Types().Rows(), ElementsAre(u"Movie(mov)", u"Movie(mov)"));
 }
 
 TEST_F(AdvancedSettingsDlgTest, ATypeThatKeepsNameAndExtensionKeepsItsRow) {

@@ -59,6 +59,21 @@ TEST_F(AppSettingsDlgActionsTest, ExtensionRowsAloneStoreACountOfZero) {
   EXPECT_EQ(SettingsGet(keys::kIncludedCount), u"0");
 }
 
+TEST_F(AppSettingsDlgActionsTest, ADeletedExtensionRowIsStillSubtractedFromTheCount) {
+  UseExtensions({u"a.zux", u"b.zux"});
+  Include({u"one.xml"});
+  Open();
+  for (int deleted = 0; deleted < 2; ++deleted) {
+    List().Choose(2);
+    Press(u"Delete");
+  }
+
+  EXPECT_EQ(page.StoreToDescriptor(), 0);
+
+  EXPECT_THAT(StoredItems(), ElementsAre("item0=one.xml"));
+  EXPECT_EQ(SettingsGet(keys::kIncludedCount), u"-1");
+}
+
 TEST_F(AppSettingsDlgActionsTest, WithMovieAndDescriptorAloneTheOldCountStays) {
   Include({u"one.xml"});
   Open();
@@ -81,6 +96,7 @@ TEST_F(AppSettingsDlgActionsTest, TheDialogForAFileHasNoStartFolder) {
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
   const FileDialogRequest& dialog = frontEnd.fileDialogs.front();
   EXPECT_EQ(dialog.kind, FileDialogKind::kOpen);
+  EXPECT_EQ(dialog.owner, frontEnd.focus);
   EXPECT_EQ(dialog.startFolder, u"");
   EXPECT_EQ(dialog.filter, u"All Files (*.*)|*.*||");
   EXPECT_THAT(List().Rows(), ElementsAre(u"Game.qmv", u"Game-app.xml", u"data\\one.xml"));
@@ -99,6 +115,7 @@ TEST_F(AppSettingsDlgActionsTest, AFileThatIsInTheListIsNoChangeAndAFolderIsOne)
   EXPECT_TRUE(page.changed);
   EXPECT_THAT(List().Rows(), ElementsAre(u"Game.qmv", u"Game-app.xml", u"data", u"data"));
   ASSERT_EQ(frontEnd.folderDialogs.size(), 1u);
+  EXPECT_EQ(frontEnd.folderDialogs.front().owner, frontEnd.focus);
   EXPECT_EQ(frontEnd.folderDialogs.front().title, u"Choose a folder to be in package");
   EXPECT_EQ(frontEnd.folderDialogs.front().flags, 64u);
 }
@@ -161,6 +178,7 @@ TEST_F(AppSettingsDlgActionsTest, BrowsingOffersTheDesktopsExtensionUnderTheMobi
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
   const FileDialogRequest& dialog = frontEnd.fileDialogs.front();
   EXPECT_EQ(dialog.kind, FileDialogKind::kSave);
+  EXPECT_EQ(dialog.owner, frontEnd.focus);
   EXPECT_EQ(dialog.title, u"Select File Destination");
   EXPECT_EQ(dialog.filter, u"TAV File (*.apk)|*.apk||");
   EXPECT_EQ(dialog.defaultExtension, u"tav");

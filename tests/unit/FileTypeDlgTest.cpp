@@ -245,6 +245,7 @@ TEST_F(FileTypeDlgTest, BrowsingOffersPngFilesAndCancelChangesNothing) {
 
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
   EXPECT_EQ(frontEnd.fileDialogs[0].kind, FileDialogKind::kOpen);
+  EXPECT_EQ(frontEnd.fileDialogs[0].owner, frontEnd.focus);
   EXPECT_EQ(frontEnd.fileDialogs[0].filter, u"Image File (*.png)|*.png||");
   EXPECT_EQ(Field(u"48x48:").text, u"typed");
 }
@@ -479,6 +480,27 @@ TEST_F(FileTypeDlgTest, AnExtensionOutsideItsRulesIsRefused) {
 }
 
 // --- OK: the icons ------------------------------------------------------------------------------
+
+TEST_F(FileTypeDlgTest, OfSeveralMistakesTheFirstIsTold) {
+  CreateFilled();
+  Field(u"Name:").Type(u"1");
+  Field(u"Extension:").Type(u"m.v");
+
+  PressButton(dialog, u"OK");
+
+  ExpectRefused(
+      u"Invalid file type name.\n\nFile type name length must be between 1-38 characters and may "
+      u"include the following characters: a-z, A-Z, 0-9 and dot (.).  File type name cannot start "
+      u"with a dot or digit.");
+  Field(u"Content type:").Type(u"");
+  frontEnd.messages.clear();
+
+  PressButton(dialog, u"OK");
+
+  ExpectRefused(
+      u"Please provide a file type name, extension and content type. These parameters are "
+      u"required.");
+}
 
 TEST_F(FileTypeDlgTest, IconsAreStoredWithForwardSlashesAndTheirBlanks) {
   files.Put(u"C:/m/i/a b.png");

@@ -271,6 +271,7 @@ TEST_F(IconPreviewDlgTest, BrowsingOffersPngFiles) {
 
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
   EXPECT_EQ(frontEnd.fileDialogs[0].kind, FileDialogKind::kOpen);
+  EXPECT_EQ(frontEnd.fileDialogs[0].owner, frontEnd.focus);
   EXPECT_EQ(frontEnd.fileDialogs[0].filter, u"Image File (*.png)|*.png||");
   EXPECT_EQ(Children(), "<icon/>");
 }
@@ -296,6 +297,18 @@ TEST_F(IconPreviewDlgTest, AChosenIconReplacesTheOneBefore) {
   Browse(u"C:\\m\\b.png");
 
   EXPECT_EQ(Children(), "<icon><image36x36>b.png</image36x36></icon>");
+}
+
+TEST_F(IconPreviewDlgTest, WithoutAnIconElementAChosenIconIsDroppedWithoutAWord) {
+  PutImage(u"C:\\m\\a.png", 36, 36);
+  LoadChildren("<id>com.game</id>");
+  page.Create();
+
+  Browse(u"C:\\m\\a.png");
+
+  EXPECT_EQ(Children(), "<id>com.game</id>");
+  EXPECT_EQ(PathText(), u"");
+  EXPECT_THAT(frontEnd.messages, IsEmpty());
 }
 
 TEST_F(IconPreviewDlgTest, AChosenIconIsNoChangeToReport) {

@@ -72,6 +72,7 @@ TEST_F(IpaSettingsDlgActionsTest, TheDialogForAFileStartsInTheMoviesFolder) {
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
   const FileDialogRequest& dialog = frontEnd.fileDialogs.front();
   EXPECT_EQ(dialog.kind, FileDialogKind::kOpen);
+  EXPECT_EQ(dialog.owner, frontEnd.focus);
   EXPECT_EQ(dialog.startFolder, u"C:\\docs\\");
   EXPECT_EQ(dialog.filter, u"All Files (*.*)|*.*||");
   EXPECT_EQ(dialog.title, u"");
@@ -139,6 +140,7 @@ TEST_F(IpaSettingsDlgActionsTest, TheFolderDialogIsOfTheNewStyle) {
   Press(u"Add folder");
 
   ASSERT_EQ(frontEnd.folderDialogs.size(), 1u);
+  EXPECT_EQ(frontEnd.folderDialogs.front().owner, frontEnd.focus);
   EXPECT_EQ(frontEnd.folderDialogs.front().title, u"Choose a folder to be in package");
   EXPECT_EQ(frontEnd.folderDialogs.front().flags, 64u);
 }
@@ -290,6 +292,7 @@ TEST_F(IpaSettingsDlgActionsTest, BrowsingStartsWithTheNameInTheField) {
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
   const FileDialogRequest& dialog = frontEnd.fileDialogs.front();
   EXPECT_EQ(dialog.kind, FileDialogKind::kSave);
+  EXPECT_EQ(dialog.owner, frontEnd.focus);
   EXPECT_EQ(dialog.title, u"Select File Destination");
   EXPECT_EQ(dialog.filter, u"Android App File (*.apk)|*.apk||");
   EXPECT_EQ(dialog.defaultExtension, u"apk");

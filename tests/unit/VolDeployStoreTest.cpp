@@ -145,6 +145,47 @@ TEST_F(VolDeployStoreTest, AFailedCheckPutsTheStoredStateBackIntoEveryControl) {
   EXPECT_TRUE(Find<RadioButton>(page, u"Deployment - Ad hoc").checked);
 }
 
+TEST_F(VolDeployStoreTest, AFailedCheckLeavesATypedPasswordThatIsNotRemembered) {
+  SettingsSet(u"com.tav.moresh.ipacertpwd", u"stored");
+  CreateFilled();
+  Combo(u"Certificate:").Type(u"");
+
+  EXPECT_EQ(page.SaveToSettings(true), 1);
+
+  EXPECT_EQ(Password().text, u"secret");
+}
+
+TEST_F(VolDeployStoreTest, AFailedCheckLeavesATypedAppIdWithoutAStoredOne) {
+  LoadChildren("");
+  CreateFilled();
+  Combo(u"Certificate:").Type(u"");
+
+  EXPECT_EQ(page.SaveToSettings(true), 1);
+
+  EXPECT_EQ(ApplicationId().text, u"com.new.game");
+}
+
+TEST_F(VolDeployStoreTest, ARefusedProfileLeavesStoredWhatWasAcceptedBefore) {
+  CreateFilled();
+  Combo(u"Provisioning profile:").Type(u"C:\\gone\\my.mobileprovision");
+
+  EXPECT_EQ(page.SaveToSettings(true), 2);
+
+  EXPECT_EQ(SettingsGet(u"com.tav.moresh.ipacertpath"), u"C:/k/my.p12");
+  EXPECT_EQ(SettingsGet(u"com.tav.moresh.ipacertpwd"), u"secret");
+}
+
+TEST_F(VolDeployStoreTest, ARefusedCertificateLeavesNothingStored) {
+  CreateFilled();
+  Combo(u"Certificate:").Type(u"C:\\gone\\my.p12");
+
+  EXPECT_EQ(page.SaveToSettings(true), 2);
+
+  EXPECT_EQ(SettingsGet(u"com.tav.moresh.ipacertpath"), u"");
+  EXPECT_EQ(SettingsGet(u"com.tav.moresh.ipacertpwd"), u"");
+  EXPECT_EQ(SettingsGet(u"com.tav.moresh.ipaprovision"), u"");
+}
+
 TEST_F(VolDeployStoreTest, LoadingAnewListsNoFileTwice) {
   SaveRegistryFileList(u"IpaCertPath", 10, {PutFile(u"a.p12")});
   page.Create();
