@@ -6,6 +6,7 @@
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
+#include "settings_ui/FileChooser.h"
 #include "settings_ui/RecentFiles.h"
 #include "support/HostConfiguration.h"
 #include "support/NetworkInterfaces.h"
@@ -197,11 +198,9 @@ void CDigitalSigDlg::LoadMarkets() {
 // --- Certificate -------------------------------------------------------------------------------
 
 void CDigitalSigDlg::BrowseCertificate() {
-  FileDialogRequest request;
-  request.owner = TheServices().frontEnd->FocusWindow();
-  request.filter = Message(messages::kP12File) + u" (*.p12)|*.p12|" + Message(messages::kPfxFile) +
-                   u" (*.pfx)|*.pfx|" + Message(messages::kJksFile) + u" (*.jks)|*.jks||";
-  const auto chosen = TheServices().frontEnd->ChooseFile(request);
+  const auto chosen = ChooseFileToOpen(Message(messages::kP12File) + u" (*.p12)|*.p12|" +
+                                       Message(messages::kPfxFile) + u" (*.pfx)|*.pfx|" +
+                                       Message(messages::kJksFile) + u" (*.jks)|*.jks||");
   if (!chosen) return;
   AddPathToCombo(*certificate_, *chosen);
   certificate_->FitDropWidth();

@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 #include "descriptor/DescriptorDocument.h"
 #include "framework/MessageBoxes.h"
 #include "platform/Services.h"
 #include "settings_ui/DialogTexts.h"
+#include "settings_ui/FileChooser.h"
+#include "settings_ui/GeneralFields.h"
 #include "settings_ui/ProvisioningProfile.h"
 #include "settings_ui/RecentFiles.h"
 #include "support/HelpLinks.h"
@@ -36,12 +37,6 @@ constexpr DeployType kDeployTypes[] = {
 
 constexpr int kFieldEmpty = 1;
 constexpr int kFileMissing = 2;
-
-std::optional<std::u16string> BrowseFor(const char16_t* filter) {
-  FileDialogRequest request;
-  request.filter = filter;
-  return TheServices().frontEnd->ChooseFile(request);
-}
 
 }  // namespace
 
@@ -135,7 +130,7 @@ void CVolDeployDlg::LoadFile(const FileField& field) {
 void CVolDeployDlg::LoadApplicationId() { CurrentDescriptor.GetText("id", applicationId_->text); }
 
 void CVolDeployDlg::BrowseCertificate() {
-  const auto path = BrowseFor(certificate_.filter);
+  const auto path = ChooseFileToOpen(certificate_.filter);
   if (!path) return;
   AddPathToCombo(*certificate_.combo, *path);
   certificate_.combo->FitDropWidth();
@@ -143,7 +138,7 @@ void CVolDeployDlg::BrowseCertificate() {
 
 // A profile that is listed already changes neither the selection nor the App ID.
 void CVolDeployDlg::BrowseProfile() {
-  const auto path = BrowseFor(profile_.filter);
+  const auto path = ChooseFileToOpen(profile_.filter);
   if (!path) return;
   ComboBox& combo = *profile_.combo;
   if (AddPathToCombo(combo, *path)) {
@@ -190,10 +185,7 @@ int CVolDeployDlg::StoreFile(const FileField& field, bool validate) {
 
 void CVolDeployDlg::KeepFile(const FileField& field) {
   const std::u16string path = WithForwardSlashes(field.combo->text);
-  if (!SettingsEquals(field.key, path)) {
-    SettingsSet(field.key, path);
-    changed = true;
-  }
+  if (StoreSetting(field.key, path)) changed = true;
   SetRegistryString(field.lastChoice, path);
   SaveRecentFiles(*field.combo, field.recentFiles);
 }

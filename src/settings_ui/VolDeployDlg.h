@@ -13,9 +13,9 @@ class CVolDeployDlg : public CPropertyPage {
  public:
   CVolDeployDlg();
 
-  /// Stores the fields; an empty one stays as it was stored. With `validate` an empty field gives
-  /// 1 and a file that does not exist 2: a message is shown, the page loads itself anew and what
-  /// follows is not stored. 0 when all is done.
+  /// Stores the fields; an empty one stays as it was stored. With `validate` an empty field, but
+  /// for the App ID, gives 1 and a file that does not exist 2: a message is shown, the page loads
+  /// itself anew and what follows is not stored. 0 when all is done.
   int SaveToSettings(bool validate);
 
   /// Rewrites the App ID so that the selected profile covers it. Throws `std::out_of_range` for a

@@ -256,6 +256,7 @@ TEST_F(VolDeployDlgTest, BrowsingForACertificateOffersP12Files) {
 
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
   EXPECT_EQ(frontEnd.fileDialogs[0].kind, FileDialogKind::kOpen);
+  EXPECT_EQ(frontEnd.fileDialogs[0].owner, frontEnd.focus);
   EXPECT_EQ(frontEnd.fileDialogs[0].filter, u" (*.p12)|*.p12||");
 }
 
@@ -303,6 +304,8 @@ TEST_F(VolDeployDlgTest, BrowsingForAProfileOffersProfiles) {
   EXPECT_TRUE(PressButton(page, u"Browse...#2"));
 
   ASSERT_EQ(frontEnd.fileDialogs.size(), 1u);
+  EXPECT_EQ(frontEnd.fileDialogs[0].kind, FileDialogKind::kOpen);
+  EXPECT_EQ(frontEnd.fileDialogs[0].owner, frontEnd.focus);
   EXPECT_EQ(frontEnd.fileDialogs[0].filter, u" (*.mobileprovision)|*.mobileprovision||");
 }
 
