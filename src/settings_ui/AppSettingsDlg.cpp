@@ -91,6 +91,15 @@ void StoreTextOrClear(const char* tag, const std::u16string& text) {
   }
 }
 
+// A carriage return would be written as a reference, and every store and load would add another.
+std::u16string WithPlainLineBreaks(const std::u16string& text) {
+  return ReplaceAll(text, u"\r\n", u"\n");
+}
+
+std::u16string WithEditLineBreaks(const std::u16string& text) {
+  return ReplaceAll(WithPlainLineBreaks(text), u"\n", u"\r\n");
+}
+
 bool Holds(const std::vector<std::u16string>& rows, const std::u16string& row) {
   return std::find(rows.begin(), rows.end(), row) != rows.end();
 }
@@ -181,7 +190,7 @@ void CAppSettingsDlg::LoadNames() {
 void CAppSettingsDlg::LoadDescription() {
   if (LoadLocalisableField(*description_, "description")) {
     description_->fontFace = kEastAsianFace;
-    description_->text = ReplaceAll(description_->text, u"\n", u"\r\n");
+    description_->text = WithEditLineBreaks(description_->text);
   }
   LoadField(*copyright_, "copyright");
 }
@@ -222,7 +231,9 @@ void CAppSettingsDlg::StoreNames() {
 }
 
 void CAppSettingsDlg::StoreDescription() {
-  if (!IsLocalised("description")) StoreTextOrClear("description", description_->text);
+  if (!IsLocalised("description")) {
+    StoreTextOrClear("description", WithPlainLineBreaks(description_->text));
+  }
   StoreTextOrClear("copyright", copyright_->text);
 }
 

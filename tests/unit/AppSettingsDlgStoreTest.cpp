@@ -162,6 +162,26 @@ TEST_F(AppSettingsDlgStoreTest, AnEmptyDescriptionAddsNoElement) {
   EXPECT_EQ(Children(), "<id>com.game</id>");
 }
 
+TEST_F(AppSettingsDlgStoreTest, ADescriptionOfSeveralLinesIsTheSameAfterStoringAndLoading) {
+  Open("<id>com.game</id><description>old</description>");
+  EditOf(u"Description:").Type(u"one\r\ntwo\r\n\r\nfour");
+
+  EXPECT_EQ(page.StoreToDescriptor(), 0);
+
+  EXPECT_EQ(SavedFile().find("&#"), std::string::npos) << SavedFile();
+  EXPECT_EQ(TextOf("description"), "one\ntwo\n\nfour");
+  EXPECT_EQ(Load(SavedFile()), 0);
+  CAppSettingsDlg anew;
+  anew.Create();
+  EXPECT_EQ(Find<Edit>(anew, u"Description:").text, u"one\r\ntwo\r\n\r\nfour");
+}
+
+TEST_F(AppSettingsDlgStoreTest, ADescriptionWithCarriageReturnsOfItsOwnShowsEachLineEndOnce) {
+  Open("<id>com.game</id><description>one&#13;\ntwo\nthree</description>");
+
+  EXPECT_EQ(EditOf(u"Description:").text, u"one\r\ntwo\r\nthree");
+}
+
 // --- Output file and installer -------------------------------------------------------------------
 
 TEST_F(AppSettingsDlgStoreTest, TheOutputFileIsStoredWithForwardSlashesAsAChange) {
