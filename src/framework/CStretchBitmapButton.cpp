@@ -1,6 +1,7 @@
 #include "framework/CStretchBitmapButton.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "framework/ControlVisitor.h"
 
@@ -24,6 +25,13 @@ void HoverButtons::OnMouseMove(const Control* under) {
     return;
   }
   for (CStretchBitmapButton* button : buttons_) button->focused = false;
+}
+
+void PrepareImageButton(CStretchBitmapButton& button, ButtonImage image, HoverButtons& hover,
+                        std::function<void()> onClick) {
+  button.image = image;
+  button.onClick = std::move(onClick);
+  hover.Add(button);
 }
 
 }  // namespace qutav

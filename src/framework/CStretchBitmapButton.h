@@ -1,6 +1,7 @@
 // Image buttons, and the way in which those of a dialog light up under the mouse.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "framework/Control.h"
@@ -41,5 +42,9 @@ class HoverButtons {
  private:
   std::vector<CStretchBitmapButton*> buttons_;
 };
+
+/// Gives an image button its picture and its handler, and lets it light up under the mouse.
+void PrepareImageButton(CStretchBitmapButton& button, ButtonImage image, HoverButtons& hover,
+                        std::function<void()> onClick);
 
 }  // namespace qutav

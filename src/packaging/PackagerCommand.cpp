@@ -154,7 +154,7 @@ std::u16string ImageItems(const std::vector<std::u16string>& images) {
 
 std::optional<FoundFile> FindIncluded(const std::u16string& value) {
   Files& files = *TheServices().files;
-  const std::u16string beside = WithBackslashes(SettingsGet(keys::kMovieFolder)) + value;
+  const std::u16string beside = MovieFolder() + value;
   auto found = files.Find(beside);
   return found ? found : files.Find(value);
 }

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "framework/Fonts.h"
 #include "framework/MessageBoxes.h"
 #include "packaging/CountryCodes.h"
 #include "packaging/PackagerCommand.h"
@@ -105,7 +106,7 @@ bool CSelfSignDlg::OnInitDialog() {
   type_->SetCurSel(type_->AddString(u"2048-RSA"));
   validity_->text = u"25";
   if (IsOlderWindows()) {
-    for (Edit* name : {publisher_, unit_, organization_}) name->fontFace = u"SimSun-18030";
+    for (Edit* name : {publisher_, unit_, organization_}) name->fontFace = kEastAsianFace;
   }
   return CDialog::OnInitDialog();
 }

@@ -9,6 +9,7 @@
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
 #include "settings_ui/FileTypeDlg.h"
+#include "settings_ui/GeneralFields.h"
 #include "win/InterfaceLanguage.h"
 #include "win/MessageIds.h"
 
@@ -52,8 +53,6 @@ std::optional<std::u16string> TrimmedText(const char* tag) {
   return Trimmed(FromLocalCodePage(text));
 }
 
-void FillText(Edit& edit, const char* tag) { CurrentDescriptor.GetText(tag, edit.text); }
-
 void FillDigits(Edit& edit, const std::u16string& text) {
   if (AllDigits(text)) edit.text = text;
 }
@@ -88,13 +87,12 @@ CAdvancedSettingsDlg::CAdvancedSettingsDlg()
 void CAdvancedSettingsDlg::AddFileTypeControls() {
   Add<GroupBox>(u"Associated file types", texts::kAdvancedFileTypesGroup);
   types_ = &Add<ListBox>(u"File types:", texts::kAdvancedFileTypes);
-  AddImageButton(u"Add file type", texts::kAdvancedAdd, ButtonImage::kAdd).onClick = [this] {
-    AddFileType();
-  };
-  delete_ = &AddImageButton(u"Delete file type", texts::kAdvancedDelete, ButtonImage::kDelete);
-  delete_->onClick = [this] { DeleteFileType(); };
-  edit_ = &AddImageButton(u"Edit file type", texts::kAdvancedEdit, ButtonImage::kEdit);
-  edit_->onClick = [this] { EditFileType(); };
+  AddImageButton(u"Add file type", texts::kAdvancedAdd, ButtonImage::kAdd,
+                 &CAdvancedSettingsDlg::AddFileType);
+  delete_ = &AddImageButton(u"Delete file type", texts::kAdvancedDelete, ButtonImage::kDelete,
+                            &CAdvancedSettingsDlg::DeleteFileType);
+  edit_ = &AddImageButton(u"Edit file type", texts::kAdvancedEdit, ButtonImage::kEdit,
+                          &CAdvancedSettingsDlg::EditFileType);
 }
 
 void CAdvancedSettingsDlg::AddWindowControls() {
@@ -133,12 +131,11 @@ CheckBox& CAdvancedSettingsDlg::AddSwitch(const char16_t* label, std::uint32_t c
   return box;
 }
 
-CStretchBitmapButton& CAdvancedSettingsDlg::AddImageButton(const char16_t* label,
-                                                           std::uint32_t captionId,
-                                                           ButtonImage image) {
+CStretchBitmapButton& CAdvancedSettingsDlg::AddImageButton(
+    const char16_t* label, std::uint32_t captionId, ButtonImage image,
+    void (CAdvancedSettingsDlg::*handler)()) {
   auto& button = Add<CStretchBitmapButton>(label, captionId);
-  button.image = image;
-  hover_.Add(button);
+  PrepareImageButton(button, image, hover_, [this, handler] { (this->*handler)(); });
   return button;
 }
 
@@ -177,8 +174,8 @@ void CAdvancedSettingsDlg::LoadFileType(const std::u16string& row) {
 }
 
 void CAdvancedSettingsDlg::LoadFields() {
-  FillText(*installFolder_, "installFolder");
-  FillText(*programMenuFolder_, "programMenuFolder");
+  LoadField(*installFolder_, "installFolder");
+  LoadField(*programMenuFolder_, "programMenuFolder");
   FillNumber(*width_, "width");
   FillNumber(*height_, "height");
   FillNumber(*x_, "x");

@@ -32,7 +32,7 @@ class CAdvancedSettingsDlg : public CPropertyPage {
   Edit& AddNumber(const char16_t* label, std::uint32_t captionId);
   CheckBox& AddSwitch(const char16_t* label, std::uint32_t captionId);
   CStretchBitmapButton& AddImageButton(const char16_t* label, std::uint32_t captionId,
-                                       ButtonImage image);
+                                       ButtonImage image, void (CAdvancedSettingsDlg::*handler)());
 
   void LoadFileTypes();
   void LoadFileType(const std::u16string& row);

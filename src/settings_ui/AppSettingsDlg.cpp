@@ -4,6 +4,7 @@
 
 #include "descriptor/DescriptorDocument.h"
 #include "descriptor/SampleNamespace.h"
+#include "framework/Fonts.h"
 #include "packaging/DocumentDescriptor.h"
 #include "packaging/PackagerCommand.h"
 #include "platform/Text.h"
@@ -18,8 +19,6 @@
 
 namespace qutav {
 namespace {
-
-constexpr char16_t kEastAsianFace[] = u"SimSun-18030";
 
 // By their rows in the list.
 struct WindowStyle {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/Fonts.h"
 #include "framework/MessageBoxes.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
@@ -19,7 +20,6 @@ namespace qutav {
 namespace {
 
 constexpr char16_t kCopiedIconsFolder[] = u"FileTypeIconsForTAVPublish";
-constexpr char16_t kFontOfOlderWindows[] = u"SimSun-18030";
 
 std::uint32_t TextId(std::uint32_t first, std::size_t index) {
   return first + static_cast<std::uint32_t>(index);
@@ -81,14 +81,10 @@ void CFileTypeDlg::AddIconRows() {
     icon.path = &Add<Edit>(size + u":", TextId(texts::kFileTypeFirstPath, i));
     auto& browse = Add<CStretchBitmapButton>(u"Browse " + size + u" icon",
                                              TextId(texts::kFileTypeFirstBrowse, i));
-    browse.image = ButtonImage::kBrowse;
-    browse.onClick = [this, &icon] { PickIconFile(icon); };
+    PrepareImageButton(browse, ButtonImage::kBrowse, hover_, [this, &icon] { PickIconFile(icon); });
     auto& remove = Add<CStretchBitmapButton>(u"Remove " + size + u" icon",
                                              TextId(texts::kFileTypeFirstRemove, i));
-    remove.image = ButtonImage::kDelete;
-    remove.onClick = [&icon] { RemoveIcon(icon); };
-    hover_.Add(browse);
-    hover_.Add(remove);
+    PrepareImageButton(remove, ButtonImage::kDelete, hover_, [&icon] { RemoveIcon(icon); });
   }
 }
 
@@ -98,10 +94,10 @@ bool CFileTypeDlg::OnInitDialog() {
     icon.preview->width = icon.kind->previewWidth;
     icon.preview->height = icon.kind->previewHeight;
   }
-  rootFolder_ = RootContentFolder();
+  rootFolder_ = MovieFolder();
   if (IsOlderWindows()) {
-    description_->fontFace = kFontOfOlderWindows;
-    contentType_->fontFace = kFontOfOlderWindows;
+    description_->fontFace = kEastAsianFace;
+    contentType_->fontFace = kEastAsianFace;
   }
   FillFromRecord();
   return true;

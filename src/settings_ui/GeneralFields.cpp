@@ -1,7 +1,5 @@
 #include "settings_ui/GeneralFields.h"
 
-#include <utility>
-
 #include "descriptor/DescriptorDocument.h"
 #include "framework/MessageBoxes.h"
 #include "platform/Services.h"
@@ -23,13 +21,6 @@ std::u16string StartNameOf(const Edit& field) {
 }
 
 }  // namespace
-
-void PrepareImageButton(CStretchBitmapButton& button, ButtonImage image, HoverButtons& hover,
-                        std::function<void()> onClick) {
-  button.image = image;
-  button.onClick = std::move(onClick);
-  hover.Add(button);
-}
 
 std::optional<std::u16string> DescriptorText(const char* tag) {
   std::u16string text;

@@ -1,17 +1,13 @@
-// What the General pages for mobile and for desktop do alike with their fields.
+// What several pages do alike with their fields, most of all both General pages.
 #pragma once
 
-#include <functional>
+#include <cstdint>
 #include <optional>
 #include <string>
 
-#include "framework/CStretchBitmapButton.h"
+#include "framework/Control.h"
 
 namespace qutav {
-
-/// Gives an image button its picture and its handler, and lets it light up under the mouse.
-void PrepareImageButton(CStretchBitmapButton& button, ButtonImage image, HoverButtons& hover,
-                        std::function<void()> onClick);
 
 /// Text of the first element of a tag in `CurrentDescriptor`; nothing when it cannot be read.
 std::optional<std::u16string> DescriptorText(const char* tag);

@@ -2,21 +2,14 @@
 
 #include "framework/MessageBoxes.h"
 #include "platform/Services.h"
-#include "support/Paths.h"
+#include "settings_ui/FileChooser.h"
 #include "win/InterfaceLanguage.h"
 #include "win/MessageIds.h"
-#include "win/SettingsKeys.h"
-#include "win/SettingsMap.h"
 
 namespace qutav {
 
-std::u16string RootContentFolder() { return WithBackslashes(SettingsGet(keys::kMovieFolder)); }
-
 std::optional<std::u16string> ChooseIconFile() {
-  FileDialogRequest request;
-  request.owner = TheServices().frontEnd->FocusWindow();
-  request.filter = Message(messages::kImageFile) + u" (*.png)|*.png||";
-  return TheServices().frontEnd->ChooseFile(request);
+  return ChooseFileToOpen(Message(messages::kImageFile) + u" (*.png)|*.png||");
 }
 
 bool IsBelowRoot(const std::u16string& path, const std::u16string& rootFolder) {

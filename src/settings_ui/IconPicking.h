@@ -6,9 +6,6 @@
 
 namespace qutav {
 
-/// The movie's folder as controls show it: backslashes, one at the end.
-std::u16string RootContentFolder();
-
 /// Lets the user choose a PNG file; nothing when the dialog was cancelled.
 std::optional<std::u16string> ChooseIconFile();
 

@@ -51,13 +51,9 @@ CIconPreviewDlg::CIconPreviewDlg()
   path_ = &Add<Edit>(u"Icon path:", texts::kIconsPath);
   path_->style = EditStyle::kReadOnly;
   auto& browse = Add<CStretchBitmapButton>(u"Browse icon", texts::kIconsBrowse);
-  browse.image = ButtonImage::kBrowse;
-  browse.onClick = [this] { BrowseIcon(); };
+  PrepareImageButton(browse, ButtonImage::kBrowse, hover_, [this] { BrowseIcon(); });
   auto& remove = Add<CStretchBitmapButton>(u"Remove icon", texts::kIconsRemove);
-  remove.image = ButtonImage::kDelete;
-  remove.onClick = [this] { ClearIcon(); };
-  hover_.Add(browse);
-  hover_.Add(remove);
+  PrepareImageButton(remove, ButtonImage::kDelete, hover_, [this] { ClearIcon(); });
   preview_ = &Add<Picture>(u"Preview:", texts::kIconsPreview);
   preview_->width = kPreviewSide;
   preview_->height = kPreviewSide;
@@ -69,7 +65,7 @@ bool CIconPreviewDlg::OnInitDialog() {
   for (const IconSize& size : kIconSizes) {
     if (IsOffered(size)) sizes_->AddString(Message(messages::kIcon) + size.text);
   }
-  rootFolder = RootContentFolder();
+  rootFolder = MovieFolder();
   sizes_->SetCurSel(0);
   ShowSelectedIcon();
   initialised = true;

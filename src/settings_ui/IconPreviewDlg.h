@@ -32,7 +32,7 @@ class CIconPreviewDlg : public CPropertyPage {
 
   bool initialised = false;
   bool changed = false;
-  std::u16string rootFolder;  ///< ends in a backslash
+  std::u16string rootFolder;  ///< ends in a backslash; empty without a movie's folder
 
  protected:
   bool OnInitDialog() override;

@@ -2,6 +2,7 @@
 
 #include "platform/Services.h"
 #include "platform/Text.h"
+#include "settings_ui/FileChooser.h"
 #include "settings_ui/FolderChooser.h"
 #include "support/Paths.h"
 #include "win/ExtensionCache.h"
@@ -12,8 +13,6 @@
 
 namespace qutav {
 namespace {
-
-std::u16string MovieFolder() { return WithBackslashes(SettingsGet(keys::kMovieFolder)); }
 
 void AddRow(ListBox& list, const std::u16string& row) {
   list.AddString(row);
@@ -47,12 +46,7 @@ void FillIncludedFiles(ListBox& list) {
 }
 
 bool AddIncludedFile(ListBox& list, const std::u16string& startFolder) {
-  FrontEnd& frontEnd = *TheServices().frontEnd;
-  FileDialogRequest request;
-  request.owner = frontEnd.FocusWindow();
-  request.filter = Message(messages::kAllFiles) + u" (*.*)|*.*||";
-  request.startFolder = startFolder;
-  const auto path = frontEnd.ChooseFile(request);
+  const auto path = ChooseFileToOpen(Message(messages::kAllFiles) + u" (*.*)|*.*||", startFolder);
   if (!path) return false;
   const std::u16string row = MakeRelative(*path, MovieFolder());
   if (list.FindStringExact(row) >= 0) return false;

@@ -257,8 +257,7 @@ void CIpaSettingsDlg::BrowseOutput() {
 }
 
 void CIpaSettingsDlg::AddFile() {
-  const std::u16string movieFolder = WithBackslashes(SettingsGet(keys::kMovieFolder));
-  if (AddIncludedFile(*includedFiles_, movieFolder)) changed = true;
+  if (AddIncludedFile(*includedFiles_, MovieFolder())) changed = true;
 }
 
 void CIpaSettingsDlg::AddFolder() {

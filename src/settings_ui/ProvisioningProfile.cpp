@@ -6,8 +6,6 @@
 #include "descriptor/DescriptorDocument.h"
 #include "platform/Services.h"
 #include "support/Paths.h"
-#include "win/SettingsKeys.h"
-#include "win/SettingsMap.h"
 
 namespace qutav {
 namespace {
@@ -36,8 +34,7 @@ std::string CutPropertyList(std::string_view profile) {
 std::optional<std::u16string> ReadProvisioningProfile(const std::u16string& path) {
   Files& files = *TheServices().files;
   const std::string list = CutPropertyList(files.Read(path).value_or(""));
-  const std::u16string temporary =
-      WithBackslashes(SettingsGet(keys::kMovieFolder)) + kTemporaryName;
+  const std::u16string temporary = MovieFolder() + kTemporaryName;
   files.Write(temporary, list);
   DescriptorDocument document;
   document.InitParser();

@@ -9,8 +9,8 @@
 namespace qutav {
 
 /// The property list in a profile's bytes. One without an end reaches to the end of the bytes,
-/// unless it begins within the first eight of them: then they end it. Throws `std::out_of_range`
-/// when there is no list.
+/// unless it begins within the first eight of them: then it ends behind byte seven. Throws
+/// `std::out_of_range` when there is no list.
 std::string CutPropertyList(std::string_view profile);
 
 /// The identifier that a profile covers, perhaps with an asterisk; nothing when its list does not

@@ -17,6 +17,8 @@ std::u16string CommonJavaPath() {
   return root + u"Zenvoka/Zenvoka Kestrow " + ToDecimal(kProductYear) + u"/jre";
 }
 
+std::u16string MovieFolder() { return WithBackslashes(SettingsGet(keys::kMovieFolder)); }
+
 std::u16string SdkRoot() {
   const std::u16string chosen = SettingsGet(keys::kSdkPath);
   if (!chosen.empty()) return chosen;

@@ -10,6 +10,10 @@ namespace qutav {
 /// the system has no common files folder (`SHGetFolderPathW`).
 std::u16string CommonJavaPath();
 
+/// The movie's folder as dialogs and controls show it: backslashes, one at the end; empty when
+/// there is no movie's folder.
+std::u16string MovieFolder();
+
 /// The folder of the runtime SDK: the document's own choice, or the kit of the runtime level below
 /// the host's folder.
 std::u16string SdkRoot();

@@ -38,6 +38,13 @@ TEST_F(PathsTest, WithoutACommonFilesFolderThereIsNoJavaRuntime) {
   EXPECT_EQ(CommonJavaPath(), u"");
 }
 
+TEST_F(PathsTest, TheMoviesFolderIsShownWithBackslashes) {
+  EXPECT_EQ(MovieFolder(), u"");
+
+  SettingsSet(keys::kMovieFolder, u"C:/my docs/games/");
+  EXPECT_EQ(MovieFolder(), u"C:\\my docs\\games\\");
+}
+
 TEST_F(PathsTest, TheSdkIsTheChosenOneOrTheKitOfTheLevel) {
   SettingsSet(keys::kLaunchPath, u"C:/host/");
   SettingsSet(keys::kRuntimeKit, u"TAV26.0");
