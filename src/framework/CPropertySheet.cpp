@@ -34,8 +34,12 @@ Button* CPropertySheet::GetButton(int commandId) const {
 
 int CPropertySheet::DoModal() { return TheServices().frontEnd->RunModal(*this); }
 
+bool CPropertySheet::HasPage(int index) const {
+  return index >= 0 && index < static_cast<int>(pages_.size());
+}
+
 void CPropertySheet::SetActivePage(int index) {
-  if (index < 0 || index >= static_cast<int>(pages_.size())) return;
+  if (!HasPage(index)) return;
   activePage_ = index;
   if (shown_) ShowActivePage();
 }
@@ -49,6 +53,7 @@ void CPropertySheet::ShowActivePage() {
 
 bool CPropertySheet::OnInitDialog() {
   shown_ = true;
+  if (!HasPage(activePage_)) activePage_ = 0;
   SetActivePage(activePage_);
   return CDialog::OnInitDialog();
 }

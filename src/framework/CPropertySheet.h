@@ -28,6 +28,7 @@ enum class ScrollCode : int {
 
 class CPropertySheet : public CDialog {
  public:
+  /// Opens on its first page when there is no start page of that index.
   CPropertySheet(std::u16string className, std::uint32_t titleId, int startPage);
 
   /// Pages are shown in the order in which they are added. A page must outlive the sheet's window.
@@ -58,6 +59,7 @@ class CPropertySheet : public CDialog {
 
  private:
   Button& AddCommand(const std::u16string& label, std::uint32_t captionId, int commandId);
+  bool HasPage(int index) const;
   void ShowActivePage();
 
   std::vector<CPropertyPage*> pages_;

@@ -27,7 +27,7 @@ class SamplePage : public CPropertyPage {
 
 class SampleSheet : public CPropertySheet {
  public:
-  explicit SampleSheet(int startPage = 3) : CPropertySheet(u"CSampleSheet", 0, startPage) {
+  explicit SampleSheet(int startPage = 0) : CPropertySheet(u"CSampleSheet", 0, startPage) {
     Add<Button>(u"Publish").onClick = [this] { events.push_back(u"Publish"); };
   }
   using CPropertySheet::GetButton;

@@ -99,8 +99,25 @@ TEST_F(CPropertySheetTest, AnIndexWithoutAPageChangesNothing) {
   EXPECT_THAT(window.shownPages, ElementsAre(0));
 }
 
+TEST_F(CPropertySheetTest, AStartPageThatThereIsNotOpensTheFirstPage) {
+  for (const int missing : {-1, 2}) {
+    SampleSheet second(missing);
+    SamplePage first(u"First", second.events);
+    SamplePage last(u"Last", second.events);
+    second.AddPage(first);
+    second.AddPage(last);
+    second.Attach(&window);
+
+    second.Create();
+
+    EXPECT_EQ(second.GetActiveIndex(), 0);
+    EXPECT_THAT(second.events, ElementsAre(u"create First"));
+  }
+  EXPECT_THAT(window.shownPages, ElementsAre(0, 0));
+}
+
 TEST_F(CPropertySheetTest, ASheetWithoutPagesCanBeShown) {
-  SampleSheet empty;
+  SampleSheet empty(3);
   empty.Attach(&window);
 
   empty.Create();

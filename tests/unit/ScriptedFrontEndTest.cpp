@@ -294,7 +294,7 @@ TEST_F(ScriptedFrontEndTest, ASheetThatHasEndedGetsNoFurtherButton) {
 
 TEST_F(ScriptedFrontEndTest, ASheetIsWrittenWithItsPageAndItsButtons) {
   Answers(R"({"to": "sheet", "press": "OK"})");
-  SampleSheet sheet;
+  SampleSheet sheet(3);
 
   sheet.DoModal();
 
