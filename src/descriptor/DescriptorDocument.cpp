@@ -12,6 +12,7 @@
 #include "descriptor/DomSearch.h"
 #include "descriptor/FileInput.h"
 #include "descriptor/GuardedParser.h"
+#include "descriptor/StandardErrors.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 
@@ -149,7 +150,7 @@ bool DescriptorDocument::IsLoadedFrom(const std::u16string& path) const {
 int DescriptorDocument::Save(const std::u16string& path) {
   if (Document() == nullptr) return -1;
   try {
-    const auto bytes = Serialize(*Document());
+    const auto bytes = WithStandardErrors([&] { return Serialize(*Document()); });
     // What could not be written out whole must not take the place of the author's file.
     if (!bytes) return 0;
     if (TheServices().files->Write(path, *bytes)) return 0;

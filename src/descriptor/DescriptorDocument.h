@@ -49,7 +49,8 @@ class DescriptorDocument {
   /// Whether the latest successful load was of exactly this path.
   bool IsLoadedFrom(const std::u16string& path) const;
   /// Writes the DOM back, laid out, in the document's own encoding. 0, or -1 without a parser and
-  /// when the file cannot be written; the old file is then untouched.
+  /// when the file cannot be written; the old file is then untouched. So it is by a value that no
+  /// XML file can hold, which throws `std::runtime_error`.
   int Save(const std::u16string& path);
   /// Frees the parser and the DOM with it. Always 0.
   int Close();
@@ -91,7 +92,7 @@ class DescriptorDocument {
   /// A new child with that text, even beside a like one: 0; -1; 1; 2; 3 no parent.
   int AppendChild(const char* parentTag, const char* childTag, const std::u16string& value);
   /// Removes the first descendant: 0 also when there is none; -1; 1; 2; 3 no parent. A descendant
-  /// that is no direct child raises a `DOMException`.
+  /// that is no direct child throws `std::runtime_error`.
   int RemoveChild(const char* parentTag, const char* childTag);
   int RemoveGrandchild(const char* parentName, const char* elementTag, const char* childTag);
   /// Empties the first element of a tag: 0; -1; 1 no such element; 2 not an element.

@@ -4,6 +4,7 @@
 
 #include "descriptor/DescriptorDocument.h"
 #include "descriptor/DomSearch.h"
+#include "descriptor/StandardErrors.h"
 #include "platform/Text.h"
 
 namespace qutav {
@@ -140,7 +141,7 @@ int RemoveFirstDescendant(DOMElement* parent, const char* childTag) {
   DOMNode* child = FirstOfTag(*parent, childTag);
   if (child == nullptr) return 0;
   if (AsElement(child) == nullptr) return 3;
-  parent->removeChild(child)->release();
+  WithStandardErrors([&] { parent->removeChild(child)->release(); });
   return 0;
 }
 
