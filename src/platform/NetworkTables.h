@@ -35,9 +35,10 @@ struct NetworkTable {
 class NetworkTables {
  public:
   virtual ~NetworkTables() = default;
-  /// Every IPv4 address of the machine (`GetIpAddrTable`, unsorted).
+  /// Every IPv4 address of the machine (`GetIpAddrTable`, unsorted; `getifaddrs` on POSIX).
   virtual NetworkTable<InterfaceAddress> Addresses() = 0;
-  /// Every adapter with IPv4 (`GetAdaptersAddresses` with AF_INET and GAA_FLAG_INCLUDE_PREFIX).
+  /// Every adapter with IPv4 (`GetAdaptersAddresses` with AF_INET and GAA_FLAG_INCLUDE_PREFIX). On
+  /// POSIX an adapter has a row for each of its addresses (`getifaddrs`).
   virtual NetworkTable<NetworkAdapter> Adapters() = 0;
 };
 

@@ -4,6 +4,7 @@
 #include <net/if.h>
 #include <netinet/in.h>
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <memory>
@@ -35,7 +36,7 @@ NetworkTable<Row> Failure(int error) {
           FromUtf8(std::generic_category().message(error))};
 }
 
-// One row for each IPv4 address.
+// One row for each IPv4 address whose adapter has an index.
 template <typename Row, typename MakeRow>
 NetworkTable<Row> ReadTable(MakeRow makeRow) {
   int error = 0;
@@ -43,9 +44,9 @@ NetworkTable<Row> ReadTable(MakeRow makeRow) {
   if (error != 0) return Failure<Row>(error);
   NetworkTable<Row> table;
   for (const ifaddrs* entry = list.get(); entry != nullptr; entry = entry->ifa_next) {
-    if (entry->ifa_addr != nullptr && entry->ifa_addr->sa_family == AF_INET) {
-      table.rows.push_back(makeRow(*entry));
-    }
+    if (entry->ifa_addr == nullptr || entry->ifa_addr->sa_family != AF_INET) continue;
+    const std::uint32_t index = if_nametoindex(entry->ifa_name);
+    if (index != 0) table.rows.push_back(makeRow(index, *entry));
   }
   return table;
 }
@@ -56,20 +57,27 @@ std::uint32_t AddressOf(const ifaddrs& entry) {
   return address.sin_addr.s_addr;
 }
 
+// An entry's own name may be the label of one address, as "eth0:1", and not the adapter's. It
+// stands for an adapter that has gone meanwhile.
+std::u16string AdapterName(std::uint32_t index, const ifaddrs& entry) {
+  std::array<char, IF_NAMESIZE> name{};
+  const bool known = if_indextoname(index, name.data()) != nullptr;
+  return FromUtf8(known ? name.data() : entry.ifa_name);
+}
+
 class PosixNetworkTables final : public NetworkTables {
  public:
   NetworkTable<InterfaceAddress> Addresses() override {
-    return ReadTable<InterfaceAddress>([](const ifaddrs& entry) {
-      return InterfaceAddress{if_nametoindex(entry.ifa_name), AddressOf(entry)};
+    return ReadTable<InterfaceAddress>([](std::uint32_t index, const ifaddrs& entry) {
+      return InterfaceAddress{index, AddressOf(entry)};
     });
   }
 
   NetworkTable<NetworkAdapter> Adapters() override {
-    return ReadTable<NetworkAdapter>([](const ifaddrs& entry) {
+    return ReadTable<NetworkAdapter>([](std::uint32_t index, const ifaddrs& entry) {
       const bool loopback = (entry.ifa_flags & IFF_LOOPBACK) != 0;
-      return NetworkAdapter{if_nametoindex(entry.ifa_name),
-                            loopback ? kLoopbackAdapter : kEthernetAdapter,
-                            FromUtf8(entry.ifa_name)};
+      return NetworkAdapter{index, loopback ? kLoopbackAdapter : kEthernetAdapter,
+                            AdapterName(index, entry)};
     });
   }
 };

@@ -1,3 +1,7 @@
+#include <net/if.h>
+
+#include <array>
+
 #include "ServicesTest.h"
 #include "platform/posix/SystemServices.h"
 #include "support/NetworkInterfaces.h"
@@ -20,6 +24,24 @@ TEST(PosixNetworkTablesTest, TheLoopbackAdapterIsKnownByItsType) {
 
   EXPECT_EQ(table.status, TableStatus::kDone);
   EXPECT_THAT(table.rows, Contains(Field(&NetworkAdapter::type, kLoopbackAdapter)));
+}
+
+TEST(PosixNetworkTablesTest, EveryAdapterHasTheNameThatBelongsToItsIndex) {
+  const auto table = SystemNetworkTables().Adapters();
+
+  ASSERT_FALSE(table.rows.empty());
+  for (const NetworkAdapter& adapter : table.rows) {
+    std::array<char, IF_NAMESIZE> name{};
+    EXPECT_NE(if_indextoname(adapter.index, name.data()), nullptr);
+    EXPECT_EQ(adapter.friendlyName, FromUtf8(name.data()));
+  }
+}
+
+TEST(PosixNetworkTablesTest, NoAddressStandsWithoutAnAdapter) {
+  const auto table = SystemNetworkTables().Addresses();
+
+  ASSERT_FALSE(table.rows.empty());
+  for (const InterfaceAddress& row : table.rows) EXPECT_NE(row.index, 0u);
 }
 
 class PosixNetworkInterfacesTest : public ServicesTest {};
