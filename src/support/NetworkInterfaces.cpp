@@ -18,7 +18,7 @@ using InterfaceAddresses = std::map<std::uint32_t, std::uint32_t>;
 using InterfaceNames = std::map<std::uint32_t, std::u16string>;
 
 void PrintErrorText(const std::u16string& text) {
-  std::printf("\tError: %s", ToLocalCodePage(text).c_str());
+  if (!text.empty()) std::printf("\tError: %s", ToLocalCodePage(text).c_str());
 }
 
 bool ReadAddresses(InterfaceAddresses& addresses) {

@@ -122,6 +122,14 @@ TEST_F(NetworkInterfacesTest, AFailedAddressTableGivesMinusOneAndIsPrinted) {
   EXPECT_EQ(printed, "GetIpAddrTable failed with error 50\n\tError: Not supported.\r\n");
 }
 
+TEST_F(NetworkInterfacesTest, AFailedAddressTableWithoutATextPrintsItsNumberAlone) {
+  networkTables.addresses = {TableStatus::kFailed, {}, 99999, u""};
+
+  EXPECT_EQ(List(), -1);
+
+  EXPECT_EQ(printed, "GetIpAddrTable failed with error 99999\n");
+}
+
 TEST_F(NetworkInterfacesTest, AnAddressTableWithoutDataIsAFailureToo) {
   networkTables.addresses = {TableStatus::kNoData, {}, 232, u"No data."};
 
