@@ -7,8 +7,9 @@
 
 namespace qutav {
 
-/// Makes a self-signed certificate with the packaging tool. OK closes it only when the tool has
-/// made one; the new file is then the certificate of the settings. The password is kept nowhere.
+/// Makes a self-signed certificate with the packaging tool. OK closes it unless the tool tells
+/// a failure; a file that is then in its place becomes the certificate of the settings. The
+/// password is kept nowhere.
 class CSelfSignDlg : public CDialog {
  public:
   explicit CSelfSignDlg(WindowHandle parent);
@@ -18,7 +19,8 @@ class CSelfSignDlg : public CDialog {
   /// before it appended. Gives "Save as:" the ending ".p12" when it has none of a keystore.
   bool BuildCertificateArguments(std::u16string& arguments);
 
-  /// Runs the tool, waits for it and tells what came of it. True when it made the certificate.
+  /// Runs the tool, waits for it and tells what came of it. False for a failure that the tool
+  /// tells; a run that could not be followed counts as success.
   bool RunCertificateTool(const std::u16string& arguments);
 
  protected:

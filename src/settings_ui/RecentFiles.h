@@ -18,7 +18,8 @@ void AddRecentFiles(ComboBox& combo, const std::u16string& registryList);
 /// of all rows for an empty path or when none begins with it.
 void SelectRecentFile(ComboBox& combo, const std::u16string& path);
 
-/// Saves all rows in a registry list, which keeps ten; a combo without rows changes nothing.
+/// Saves the rows in a registry list that keeps ten, of which one save may write eleven; a combo
+/// without rows changes nothing.
 void SaveRecentFiles(const ComboBox& combo, const std::u16string& registryList);
 
 }  // namespace qutav
