@@ -223,6 +223,23 @@ TEST_F(DigitalSigDlgTest, ACancelledCreateChangesNothing) {
   EXPECT_THAT(Certificate().Rows(), IsEmpty());
 }
 
+TEST_F(DigitalSigDlgTest, ACreateThatMadeNoFileShowsTheCertificateOfTheSettings) {
+  SettingsSet(keys::kCertificatePath, u"C:/k/earlier.p12");
+  frontEnd.onDialog = [](CDialog& dialog) {
+    for (const char16_t* label : {u"Publisher name:", u"Organization unit:", u"Organization name:",
+                                  u"Password:", u"Confirm password:", u"Save as:"}) {
+      Find<Edit>(dialog, label).Type(u"x");
+    }
+    PressButton(dialog, u"OK");
+    EXPECT_EQ(dialog.Result(), 1);
+  };
+  page.Create();
+
+  ASSERT_TRUE(PressButton(page, u"Create..."));
+
+  EXPECT_EQ(Certificate().text, u"C:\\k\\earlier.p12");
+}
+
 TEST_F(DigitalSigDlgTest, ACreateThatLeftNoPathChangesNothing) {
   PutCertificates({u"C:\\k\\a.p12"});
   frontEnd.onDialog = [](CDialog& dialog) { dialog.EndDialog(kIdOk); };

@@ -80,6 +80,18 @@ TEST_F(DigitalSigSaveTest, PublishNeedsACertificate) {
                !SettingsGet(keys::kPublishType).empty());
 }
 
+TEST_F(DigitalSigSaveTest, TheRadiosAreTakenOverThoughTheCertificateIsRefused) {
+  OpenComplete();
+  Certificate().Type(u"");
+  Radio(u"Debug").group->Select(1);
+  Embed().group->Select(0);
+
+  ExpectRefusal(1, u"Certificate must be selected");
+
+  EXPECT_EQ(page.deployType, 1);
+  EXPECT_EQ(page.runtimeChoice, 0);
+}
+
 TEST_F(DigitalSigSaveTest, PublishNeedsACertificateThatExists) {
   OpenComplete();
   Certificate().Type(u"C:\\k\\gone.p12");
@@ -277,6 +289,53 @@ TEST_F(DigitalSigSaveDevicesTest, PublishNeedsACheckedDevice) {
 
   EXPECT_EQ(SettingsGet(keys::kAdbOption), u"install");
   EXPECT_EQ(SettingsGet(keys::kInstallDevices), u"gone:");
+  EXPECT_FALSE(page.changed);
+}
+
+TEST_F(DigitalSigSaveDevicesTest, TheCheckedDevicesAreTakenOverBeforeTheRefusal) {
+  SettingsSet(keys::kInstallDevices, u"A:");
+  OpenComplete();
+  Install().Click();
+  EXPECT_THAT(page.checkedDevices, ElementsAre(u"A"));
+  Devices().ToggleByUser(0);
+
+  ExpectRefusal(1, u"No device selected. Select at least one device to continue.");
+
+  EXPECT_THAT(page.checkedDevices, IsEmpty());
+  EXPECT_EQ(SettingsGet(keys::kInstallDevices), u"A:");
+}
+
+TEST_F(DigitalSigSaveDevicesTest, AllButTheDevicesIsStoredBeforeTheirRefusal) {
+  PutMarkets("<market name=\"A\" url=\"a\"/><market name=\"B\" url=\"b\"/>");
+  networkTables.addresses.rows = {{4, 10 | 2 << 24}};
+  networkTables.adapters.rows = {{4, 6, u"Wi-Fi"}};
+  OpenComplete();
+  Remember().Click();
+  Radio(u"Emulator release").Click();
+  Market().Choose(1);
+  Network().Choose(1);
+  Install().Click();
+
+  ExpectRefusal(1, u"No device selected. Select at least one device to continue.");
+
+  EXPECT_EQ(SettingsGet(keys::kCertificatePassword), u"secret");
+  EXPECT_EQ(SettingsGet(keys::kRememberPassword), u"true");
+  EXPECT_EQ(SettingsGet(keys::kPublishType), u"release-emulator");
+  EXPECT_EQ(SettingsGet(keys::kRuntimeType), u"share");
+  EXPECT_EQ(SettingsGet(keys::kMarketUrl), u"b");
+  EXPECT_EQ(SettingsGet(keys::kHostAddress), u"Wi-Fi <10.0.0.2>");
+}
+
+TEST_F(DigitalSigSaveDevicesTest, CheckedDevicesAreKeptWhenInstallingIsSwitchedOff) {
+  SettingsSet(keys::kAdbOption, u"install");
+  SettingsSet(keys::kInstallDevices, u"A:");
+  OpenComplete();
+
+  Install().Click();
+
+  EXPECT_EQ(page.SaveToSettings(false), 0);
+  EXPECT_EQ(SettingsGet(keys::kAdbOption), u"nothing");
+  EXPECT_EQ(SettingsGet(keys::kInstallDevices), u"A:");
   EXPECT_FALSE(page.changed);
 }
 

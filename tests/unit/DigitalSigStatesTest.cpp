@@ -193,6 +193,15 @@ TEST_F(DigitalSigSwitchTest, FromEmulatorToDeviceReleaseKeepsTheGetFromChoice) {
   EXPECT_EQ(Shown(), (State{kOn, kOn, kOn, kOn, kOff, 0, 1}));
 }
 
+TEST_F(DigitalSigSwitchTest, FromDebugToEmulatorReleaseTheNetworkIsOutOfUseAgain) {
+  page.Create();
+  Radio(u"Debug").Click();
+
+  Radio(u"Emulator release").Click();
+
+  EXPECT_EQ(Shown(), (State{kOn, kOff, kOn, kOn, kOff, 1, 1}));
+}
+
 TEST_F(DigitalSigSwitchTest, FromDebugToDeviceReleaseKeepsTheEmbedChoice) {
   SettingsSet(keys::kRuntimeKit, u"TAV14.0");
   SettingsSet(keys::kRuntimeType, u"share");
