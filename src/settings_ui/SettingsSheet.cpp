@@ -53,7 +53,7 @@ bool CSettingsPropSheet::OnInitDialog() {
   return true;
 }
 
-// Some Italian systems label the button with nothing but a question mark.
+// The one text that is mended.
 void CSettingsPropSheet::MendHelpButton() {
   Button* help = GetButton(kIdHelp);
   if (help->text == u"?") help->text = u"Aiuto";
@@ -158,6 +158,8 @@ template <typename Page>
 bool CSettingsPropSheet::ValidateDeployment(Page& page) {
   const int active = GetActiveIndex();
   if (active != kDeploymentPage) SetActivePage(kDeploymentPage);
+  // A page that could not load itself is never stored half.
+  if (!page.initialised) return false;
   if (page.SaveToSettings(true) != 0) return false;
   if (active != kDeploymentPage) SetActivePage(active);
   return true;

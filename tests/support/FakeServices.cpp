@@ -303,6 +303,11 @@ void FakeSheetWindow::SetScrollPosition(int position, bool redraw) {
   scrollPositions.emplace_back(position, redraw);
 }
 
+void FakeSheetWindow::ShowPage(int index) {
+  shownPages.push_back(index);
+  if (onShowPage) onShowPage(index);
+}
+
 std::optional<std::u16string> FakeFrontEnd::ChooseFile(const FileDialogRequest& request) {
   fileDialogs.push_back(request);
   return chosenFile;

@@ -190,7 +190,7 @@ class FakeSheetWindow : public SheetWindow {
   void ShowScrollBar(const ScrollInfo& info) override { scrollBar = info; }
   void SetScrollPosition(int position, bool redraw) override;
   void ScrollContents(int distance) override { scrolled.push_back(distance); }
-  void ShowPage(int index) override { shownPages.push_back(index); }
+  void ShowPage(int index) override;
 
   Rectangle workArea{0, 0, 1920, 1040};
   Rectangle window{100, 100, 600, 700};
@@ -200,6 +200,8 @@ class FakeSheetWindow : public SheetWindow {
   std::vector<std::pair<int, bool>> scrollPositions;  ///< with whether they were redrawn
   std::vector<int> scrolled;
   std::vector<int> shownPages;
+  /// Runs whenever a page has come to the front.
+  std::function<void(int index)> onShowPage;
 };
 
 struct ShownMessage {

@@ -60,6 +60,17 @@ class SheetTest : public PublishableDocumentTest {
     Find<Edit>(page, u"Password:").Type(u"secret");
   }
 
+  static void ToggleLanguage(CPropertySheet& sheet, const std::u16string& name) {
+    auto& list = Find<CheckList>(TurnTo(sheet, u"Languages"), u"Supported Languages");
+    list.ToggleByUser(list.FindRow(name));
+  }
+
+  /// Puts a descriptor there that supports these languages.
+  void PutLanguages(const std::string& codes) {
+    files.Put(descriptorPath, DescriptorText("26.0", InternetPermission() + "<supportedLanguages>" +
+                                                         codes + "</supportedLanguages>"));
+  }
+
   std::string DescriptorOnDisk() const { return files.BytesOf(descriptorPath); }
 };
 

@@ -1,7 +1,6 @@
 // What OK stores, in which order, and what it reports as a change.
 
 #include "SheetTest.h"
-#include "settings_ui/DigitalSigDlg.h"
 
 namespace qutav::test {
 namespace {
@@ -21,9 +20,18 @@ class SettingsSheetOkTest : public SheetTest {
     });
     return SettingsGet(keys::kExitOk);
   }
-  static void ToggleLanguage(CPropertySheet& sheet, const std::u16string& name) {
-    auto& list = Find<CheckList>(TurnTo(sheet, u"Languages"), u"Supported Languages");
-    list.ToggleByUser(list.FindRow(name));
+  // Presses OK as a front end does; expects one box that tells the cause, and nothing stored.
+  void ExpectToldAndOpen(const std::u16string& cause,
+                         const std::function<void(CPropertySheet&)>& act) {
+    const std::string before = DescriptorOnDisk();
+    Open([&](CPropertySheet& sheet) {
+      act(sheet);
+      CDialog::Dispatch([&] { PressButton(sheet, u"OK"); });
+      EXPECT_FALSE(sheet.HasEnded());
+    });
+    EXPECT_THAT(frontEnd.Texts(), ElementsAre(u"Unknown error.\n\n" + cause));
+    EXPECT_EQ(SettingsGet(keys::kExitOk), u"(as before)");
+    EXPECT_EQ(DescriptorOnDisk(), before);
   }
 };
 
@@ -137,10 +145,22 @@ TEST_F(SettingsSheetOkTest, WithoutAVisitToGeneralTheEditsOfTheOtherPagesAreLost
       [](CPropertySheet& sheet) {
         ToggleLanguage(sheet, u"French");
         PressButton(sheet, u"OK");
+        EXPECT_TRUE(sheet.HasEnded());
       },
       1);
 
   EXPECT_EQ(DescriptorOnDisk(), before);
+  EXPECT_THAT(frontEnd.messages, IsEmpty());
+  EXPECT_EQ(SettingsGet(keys::kExitOk), u"false");
+}
+
+TEST_F(SettingsSheetOkTest, LanguagesThatWereNotVisitedStandInTheFileAsTheAuthorWroteThem) {
+  PutLanguages("zz fr");
+
+  Reported([](CPropertySheet&) {});
+
+  EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<supportedLanguages>zz fr</supportedLanguages>"));
+  EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<versionLabel"));  // the file was written
 }
 
 TEST_F(SettingsSheetOkTest, OnIosTheLanguagesAreNotStored) {
@@ -150,6 +170,18 @@ TEST_F(SettingsSheetOkTest, OnIosTheLanguagesAreNotStored) {
 
   EXPECT_THAT(DescriptorOnDisk(), Not(HasSubstr("supportedLanguages")));
   EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<versionLabel"));  // the file was written
+}
+
+TEST_F(SettingsSheetOkTest, OnIosADeploymentPageThatWasNeverShownStoresNothing) {
+  UseIosForm();
+  SettingsSet(keys::kIpaOption, u"store");
+  const auto before = registry.keys;
+
+  Reported([](CPropertySheet&) {});
+
+  EXPECT_EQ(SettingsGet(keys::kIpaRememberPassword), u"true");
+  EXPECT_EQ(SettingsGet(keys::kIpaOption), u"store");
+  EXPECT_EQ(registry.keys, before);
 }
 
 TEST_F(SettingsSheetOkTest, OnIosAChangeOfTheDeploymentPageIsReported) {
@@ -172,6 +204,22 @@ TEST_F(SettingsSheetOkTest, OnIosTheGeneralPagesIdWinsOverTheDeploymentPages) {
 
   EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<id>com.general</id>"));
   EXPECT_THAT(DescriptorOnDisk(), Not(HasSubstr("com.deployment")));
+}
+
+// --- What the descriptor cannot take ------------------------------------------------------------
+
+TEST_F(SettingsSheetOkTest, ANameThatNoFileCanHoldIsToldAndKeepsTheSheetOpen) {
+  ExpectToldAndOpen(u"invalid or illegal XML character", [](CPropertySheet& sheet) {
+    Find<Edit>(TurnTo(sheet, u"General"), u"App name:").Type(u"a\u0001b");
+  });
+}
+
+TEST_F(SettingsSheetOkTest, LanguagesThatStandTooDeepToBeRemovedAreToldAndKeepTheSheetOpen) {
+  files.Put(descriptorPath,
+            DescriptorText("26.0", "<x><supportedLanguages>fr</supportedLanguages></x>"));
+
+  ExpectToldAndOpen(u"attempt is made to reference a node in a context where it does not exist",
+                    [](CPropertySheet& sheet) { ToggleLanguage(sheet, u"French"); });
 }
 
 }  // namespace

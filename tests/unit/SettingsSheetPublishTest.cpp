@@ -1,10 +1,15 @@
 // Publishing from within the sheet.
 
+#include <algorithm>
+#include <stdexcept>
+
 #include "SheetTest.h"
+#include "descriptor/DescriptorDocument.h"
 
 namespace qutav::test {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -14,9 +19,14 @@ using ::testing::SizeIs;
 
 class SettingsSheetPublishTest : public SheetTest {
  protected:
-  static void ToggleLanguage(CPropertySheet& sheet, const std::u16string& name) {
-    auto& list = Find<CheckList>(TurnTo(sheet, u"Languages"), u"Supported Languages");
-    list.ToggleByUser(list.FindRow(name));
+  std::vector<std::u16string> MovieExports() const {
+    return host.ScriptsBeginning(u"qu.getDocumentDOM().exportQMVPrivate");
+  }
+  std::size_t DeviceListings() const {
+    const auto lines = processes.CommandLines();
+    return static_cast<std::size_t>(std::count_if(lines.begin(), lines.end(), [](const auto& line) {
+      return line.find(u"devices") != line.npos;
+    }));
   }
   void ExpectOnlyMessage(const std::u16string& text, MessageIcon icon) const {
     ASSERT_THAT(frontEnd.messages, SizeIs(1));
@@ -56,7 +66,9 @@ TEST_F(SettingsSheetPublishTest, PackagesStaysOpenAndReturnsToItsPage) {
     EXPECT_EQ(SettingsGet(keys::kExitOk), u"(as before)");
   });
 
-  EXPECT_THAT(PackagerCommands(), ElementsAre(HasSubstr("-keystore \"C:/keys/my.p12\"")));
+  EXPECT_THAT(PackagerCommands(), ElementsAre(AllOf(HasSubstr("-target apk"),
+                                                    HasSubstr("-keystore \"C:/keys/my.p12\""))));
+  EXPECT_THAT(MovieExports(), SizeIs(1));
 }
 
 TEST_F(SettingsSheetPublishTest, ADeploymentPageThatWasNeverShownIsCreatedForIt) {
@@ -78,6 +90,51 @@ TEST_F(SettingsSheetPublishTest, AnEmptyPasswordStopsThereTooAndNoDialogAsksForI
   ExpectRefused(u"C:\\keys\\my.p12", u"", u"Password is empty. Please enter a password.");
 
   EXPECT_THAT(frontEnd.dialogs, Not(Contains(u"CSignaturePasswordDlg")));
+}
+
+TEST_F(SettingsSheetPublishTest, ADeploymentPageThatCouldNotLoadItselfIsNotStored) {
+  struct BrokenTables : FakeNetworkTables {
+    NetworkTable<InterfaceAddress> Addresses() override { throw std::runtime_error("no tables"); }
+  } broken;
+  TheServices().networkTables = &broken;
+  SettingsSet(keys::kCertificatePath, u"C:/keys/earlier.p12");
+
+  Open([](CPropertySheet& sheet) {
+    PressButton(sheet, u"Publish");
+    EXPECT_EQ(sheet.GetActiveIndex(), 1);
+    EXPECT_FALSE(sheet.HasEnded());
+  });
+
+  ExpectOnlyMessage(u"Unknown error.\n\nno tables", MessageIcon::kWarning);
+  EXPECT_EQ(RegistryValue(registry, u"DigitalSign"), u"");
+  EXPECT_EQ(SettingsGet(keys::kCertificatePath), u"C:/keys/earlier.p12");
+  EXPECT_THAT(PackagerCommands(), IsEmpty());
+}
+
+TEST_F(SettingsSheetPublishTest, ARefusedDeploymentPageLeavesTheLanguagesInTheDocument) {
+  Open([](CPropertySheet& sheet) {
+    ToggleLanguage(sheet, u"French");
+    PressButton(sheet, u"Publish");
+
+    std::u16string languages;
+    CurrentDescriptor.GetText("supportedLanguages", languages);
+    EXPECT_EQ(languages, u"fr");
+  });
+
+  ExpectOnlyMessage(u"Certificate must be selected", MessageIcon::kWarning);
+}
+
+TEST_F(SettingsSheetPublishTest, LanguagesThatWereNotVisitedStandAsTheAuthorWroteThem) {
+  PutLanguages("zz fr");
+
+  Open([](CPropertySheet& sheet) {
+    FillAndroidDeployment(sheet);
+    PressButton(sheet, u"Publish");
+  });
+
+  EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<supportedLanguages>zz fr</supportedLanguages>"));
+  EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<versionLabel"));  // the file was written
+  EXPECT_THAT(PackagerCommands(), SizeIs(1));
 }
 
 TEST_F(SettingsSheetPublishTest, TheFileHasTheEditsOfEveryPageBeforeTheToolRuns) {
@@ -136,7 +193,15 @@ TEST_F(SettingsSheetPublishTest, TheDeviceListIsFilledAnewAfterwards) {
     PressButton(sheet, u"Publish");
 
     EXPECT_EQ(devices.GetCount(), 1);
+    EXPECT_EQ(DeviceListings(), 1u);
+
+    PressButton(sheet, u"Publish");
+
+    EXPECT_EQ(devices.GetCount(), 1);
+    EXPECT_EQ(DeviceListings(), 1u);  // the system is asked once
   });
+
+  EXPECT_THAT(PackagerCommands(), SizeIs(2));
 }
 
 TEST_F(SettingsSheetPublishTest, WithoutJavaItTellsSoAndDoesNothingElseOnEitherForm) {
@@ -162,8 +227,13 @@ TEST_F(SettingsSheetPublishTest, OnIosItWantsThePackagersFiles) {
   UseIosForm();
   files.Delete(u"C:/host/DRN/lib/drn.jar");
 
-  Open([](CPropertySheet& sheet) { PressButton(sheet, u"Publish"); });
+  Open([](CPropertySheet& sheet) {
+    PressButton(sheet, u"Publish");
+    EXPECT_FALSE(sheet.Pages()[1]->IsCreated());
+    EXPECT_EQ(sheet.GetActiveIndex(), 0);
+  });
 
+  EXPECT_THAT(PackagerCommands(), IsEmpty());
   ExpectOnlyMessage(
       u"TAV for iOS publishing requires files that are not installed.\r\nPlease quit Quorl "
       u"Professional and run the original installer to ensure that all optional components are "
@@ -182,6 +252,47 @@ TEST_F(SettingsSheetPublishTest, OnIosItStoresTheLanguagesAndPackages) {
 
   EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<supportedLanguages>fr</supportedLanguages>"));
   EXPECT_THAT(PackagerCommands(), ElementsAre(HasSubstr("-target ipa-test")));
+  EXPECT_THAT(MovieExports(), SizeIs(1));
+}
+
+TEST_F(SettingsSheetPublishTest, OnIosLanguagesThatWereNotVisitedStandAsTheAuthorWroteThem) {
+  UseIosForm();
+  PutLanguages("zz fr");
+
+  Open([](CPropertySheet& sheet) { PressButton(sheet, u"Publish"); });
+
+  EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<supportedLanguages>zz fr</supportedLanguages>"));
+  EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<versionLabel"));  // the file was written
+  EXPECT_THAT(PackagerCommands(), SizeIs(1));
+}
+
+TEST_F(SettingsSheetPublishTest, OnIosARefusedIdStopsBeforeTheToolRuns) {
+  UseIosForm();
+
+  Open([](CPropertySheet& sheet) {
+    Find<Edit>(TurnTo(sheet, u"General"), u"App ID:").Type(u"no blanks");
+    PressButton(sheet, u"Publish");
+    EXPECT_FALSE(sheet.HasEnded());
+  });
+
+  EXPECT_THAT(frontEnd.messages, SizeIs(1));
+  EXPECT_THAT(PackagerCommands(), IsEmpty());
+}
+
+TEST_F(SettingsSheetPublishTest, OnIosARefusedDeploymentPageKeepsTheLanguagesOutOfTheDocument) {
+  UseIosForm();
+  SettingsSet(keys::kIpaCertificatePath, u"");
+
+  Open([](CPropertySheet& sheet) {
+    ToggleLanguage(sheet, u"French");
+    PressButton(sheet, u"Publish");
+    PressButton(sheet, u"OK");
+    EXPECT_TRUE(sheet.HasEnded());
+  });
+
+  ExpectOnlyMessage(u"Certificate must be selected", MessageIcon::kWarning);
+  EXPECT_THAT(DescriptorOnDisk(), Not(HasSubstr("supportedLanguages")));
+  EXPECT_THAT(DescriptorOnDisk(), HasSubstr("<versionLabel"));  // the file was written
 }
 
 TEST_F(SettingsSheetPublishTest, OnIosWithoutAVisitToGeneralTheRunUsesTheFileAsItWas) {
@@ -211,6 +322,76 @@ TEST_F(SettingsSheetPublishTest, OnIosARefusedDeploymentPageComesToTheFront) {
 
   ExpectOnlyMessage(u"Certificate must be selected", MessageIcon::kWarning);
   EXPECT_THAT(PackagerCommands(), IsEmpty());
+}
+
+// --- Signing material that goes behind the validation -------------------------------------------
+
+class SettingsSheetSigningTest : public SettingsSheetPublishTest {
+ protected:
+  // Publishes from the icons, with something happening when they come back to the front. The page
+  // in front afterwards.
+  int PublishWhile(const std::function<void()>& happens) {
+    int active = -1;
+    Open([&](CPropertySheet& sheet) {
+      FillAndroidDeployment(sheet);
+      TurnTo(sheet, u"Icons");
+      frontEnd.sheetWindow.onShowPage = [&](int page) {
+        if (page == 2) happens();
+      };
+      PressButton(sheet, u"Publish");
+      active = sheet.GetActiveIndex();
+      EXPECT_FALSE(sheet.HasEnded());
+    });
+    frontEnd.sheetWindow.onShowPage = nullptr;
+    return active;
+  }
+  // Answers the password dialog; every other dialog ticks until it ends.
+  void AnswerPassword(const std::u16string& button) {
+    frontEnd.onDialog = [=](CDialog& dialog) {
+      if (dialog.ClassName() != u"CSignaturePasswordDlg") return TickUntilEnded(dialog);
+      Find<Edit>(dialog, u"Password:").Type(u"typed");
+      PressButton(dialog, button);
+    };
+  }
+  static void LosePassword() { SettingsSet(keys::kCertificatePassword, u""); }
+};
+
+TEST_F(SettingsSheetSigningTest, ALostPasswordIsAskedForAndCancelPackagesNothing) {
+  AnswerPassword(u"Cancel");
+
+  EXPECT_EQ(PublishWhile([] { LosePassword(); }), 2);
+
+  EXPECT_THAT(frontEnd.dialogs, Contains(u"CSignaturePasswordDlg"));
+  EXPECT_THAT(PackagerCommands(), IsEmpty());
+}
+
+TEST_F(SettingsSheetSigningTest, ALostPasswordIsAskedForAndOkPackagesWithTheTypedOne) {
+  AnswerPassword(u"OK");
+
+  EXPECT_EQ(PublishWhile([] { LosePassword(); }), 2);
+
+  EXPECT_THAT(frontEnd.dialogs, Contains(u"CSignaturePasswordDlg"));
+  EXPECT_THAT(PackagerCommands(), ElementsAre(HasSubstr("\"typed\"")));
+}
+
+TEST_F(SettingsSheetSigningTest, ALostCertificateBringsItsPageToTheFrontAndPackagesNothing) {
+  EXPECT_EQ(PublishWhile([] { SettingsSet(keys::kCertificatePath, u""); }), 1);
+
+  EXPECT_THAT(frontEnd.messages, IsEmpty());
+  EXPECT_THAT(frontEnd.dialogs, Not(Contains(u"CSignaturePasswordDlg")));
+  EXPECT_THAT(PackagerCommands(), IsEmpty());
+}
+
+TEST_F(SettingsSheetSigningTest, APackageThatIsNotToBeSignedNeedsNeither) {
+  EXPECT_EQ(PublishWhile([] {
+              SetRegistryString(u"DigitalSign", u"Sign");
+              SettingsSet(keys::kCertificatePath, u"");
+              LosePassword();
+            }),
+            2);
+
+  EXPECT_THAT(frontEnd.dialogs, Not(Contains(u"CSignaturePasswordDlg")));
+  EXPECT_THAT(PackagerCommands(), SizeIs(1));
 }
 
 }  // namespace

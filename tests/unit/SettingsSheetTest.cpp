@@ -2,6 +2,7 @@
 
 #include "SheetTest.h"
 #include "descriptor/DescriptorDocument.h"
+#include "packaging/DocumentDescriptor.h"
 #include "support/HelpLinks.h"
 
 namespace qutav::test {
@@ -101,6 +102,15 @@ TEST_F(SettingsSheetTest, ItOpensOnTheFirstPageUnlessAnotherIsAskedFor) {
   Open(note, 1);
 
   EXPECT_THAT(pages, ElementsAre(0, 1));
+}
+
+TEST_F(SettingsSheetTest, ADocumentThatIsAlreadyInMemoryIsShownWithItsUnsavedEdits) {
+  ASSERT_EQ(LoadDocumentDescriptor(false), kLoaded);
+  CurrentDescriptor.SetText("versionLabel", u"unsaved");
+
+  Open([](CPropertySheet& sheet) {
+    EXPECT_EQ(Find<Edit>(TurnTo(sheet, u"General"), u"Version label:").text, u"unsaved");
+  });
 }
 
 TEST_F(SettingsSheetTest, CancelThrowsAwayTheDocumentInMemoryAndLeavesTheFile) {
