@@ -60,7 +60,8 @@ void CheckSerials(const std::vector<std::string>& serials, Problems& problems) {
     if (serial.empty() || serial.find(':') != serial.npos) {
       problems.push_back("--device \"" + serial +
                          "\": a serial is not empty and holds no colon; a device in the network "
-                         "cannot be used by its address");
+                         "cannot be used by its address, and no other while it is attached: run "
+                         "\"adb disconnect\" first");
     }
   }
 }

@@ -120,9 +120,22 @@ ScriptValue SetDebug(HostState& state, const Arguments& arguments) {
   return std::monostate{};
 }
 
+void TellNetworkDevice(HostState& state, const std::vector<std::u16string>& serials) {
+  const std::string device = ToUtf8(NetworkDeviceAmong(serials));
+  if (device.empty()) return;
+  state.console.Message(device +
+                        " is a device in the network: while it is attached, no device can be "
+                        "used. Run \"adb disconnect " +
+                        device + "\" first.");
+}
+
+// Gives the serials, one per line.
 ScriptValue UpdateDevices(HostState& state, const Arguments& arguments) {
-  state.devices.Update(TextAt(arguments, 1), TextAt(arguments, 0));
-  return std::monostate{};
+  const std::vector<std::u16string> serials = SerialsIn(TextAt(arguments, 0));
+  if (state.devices.Update(TextAt(arguments, 1), serials)) TellNetworkDevice(state, serials);
+  std::u16string lines;
+  for (const std::u16string& serial : serials) lines += (lines.empty() ? u"" : u"\n") + serial;
+  return lines;
 }
 
 }  // namespace

@@ -58,11 +58,11 @@ std::string SettingsScript(const CommonOptions& options, const Document& documen
 
 // Listens to what the library reports to the host.
 std::string DeviceListScript(const CommonOptions& options, const Document& document) {
-  return "var serials = ''; "
-         "qu.getDocumentDOM().updateConnectedDevices = function (list) { serials = list; }; " +
+  return "var dom = qu.getDocumentDOM(), update = dom.updateConnectedDevices, serials = ''; "
+         "dom.updateConnectedDevices = "
+         "function (list, platform) { serials = update.call(dom, list, platform); }; " +
          CallForDocument("GetConnectedDevices", options, document) +
-         " if (serials === '') throw 'No device is connected.';"
-         " serials.split(':').slice(0, -1).join('\\n');";
+         " if (serials === '') throw 'No device is connected.'; serials;";
 }
 
 std::string DeviceRunScript(const DeviceRunOptions& options, const Document& document) {

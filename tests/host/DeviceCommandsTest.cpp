@@ -86,7 +86,9 @@ TEST_F(DeviceCommandsTest, ASerialThatTheListsCannotCarryIsRefused) {
     run_.devices = {serial};
     EXPECT_EQ(RunWith(""), kRefused);
   }
-  EXPECT_THAT(error_.str(), HasSubstr("--device \"127.0.0.1:5555\": a serial is not empty"));
+  EXPECT_THAT(error_.str(),
+              AllOf(HasSubstr("--device \"127.0.0.1:5555\": a serial is not empty"),
+                    HasSubstr("no other while it is attached: run \"adb disconnect\" first\n")));
   EXPECT_FALSE(fs::exists(folder_.Path() / "devices.txt"));
 }
 
@@ -121,6 +123,14 @@ TEST_F(DevicesCommandTest, EachSerialHasALine) {
   EXPECT_EQ(List(R"("exercise.devices": "emulator-5554:R58M:")"), kDone);
   EXPECT_EQ(folder_.Read("out"), "emulator-5554\nR58M\n");
   EXPECT_EQ(folder_.Read("error"), "");
+}
+
+TEST_F(DevicesCommandTest, ADeviceInTheNetworkIsOneLineAndToldToBeInTheWay) {
+  EXPECT_EQ(List(R"("exercise.devices": "R58M:127.0.0.1:5555:")"), kDone);
+  EXPECT_EQ(folder_.Read("out"), "R58M\n127.0.0.1:5555\n");
+  EXPECT_EQ(folder_.Read("error"),
+            "127.0.0.1:5555 is a device in the network: while it is attached, no device can be "
+            "used. Run \"adb disconnect 127.0.0.1:5555\" first.\n");
 }
 
 TEST_F(DevicesCommandTest, WithoutADeviceThereIsNoLine) {
