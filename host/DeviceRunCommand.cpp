@@ -34,9 +34,9 @@ class DeviceRun {
     std::vector<std::string> devices = options_.devices;
     if (devices.empty()) devices.emplace_back();
     int result = kDone;
-    for (std::size_t i = 0; i < devices.size() && !cancelled_; ++i) {
+    for (std::size_t i = 0; i < devices.size(); ++i) {
       if (devices.size() > 1) console_.Message(DeviceHeading(devices[i], i + 1, devices.size()));
-      const int outcome = RunOn(devices[i]);
+      const int outcome = cancelled_ ? TellNotStarted(devices[i]) : RunOn(devices[i]);
       if (outcome == kRefused) return kRefused;
       if (outcome != kDone) result = kNotDone;
     }
@@ -52,16 +52,20 @@ class DeviceRun {
     library.Run(DeviceRunScript(options_, document_), device);
     const Duration duration = std::chrono::steady_clock::now() - start;
     if (library.WasRefused()) return kRefused;
-    cancelled_ = library.Record().PackagingCancelled();
+    cancelled_ = library.Record().CancelPressed();
     const std::vector<fs::path> packages = PackagesMade(before, TakeSnapshot(folders));
     // The one failure after packaging is shown in a warning, and so is the tool's own.
     if (packages.empty() || !library.Record().PackagingEnded() ||
         library.Record().WarnedAfterPackaging()) {
-      console_.Message(NotStartedText(device));
-      return kNotDone;
+      return TellNotStarted(device);
     }
     console_.Result(StartedText(packages.front(), device, duration));
     return kDone;
+  }
+
+  int TellNotStarted(const std::string& device) {
+    console_.Message(NotStartedText(device));
+    return kNotDone;
   }
 
   const DeviceRunOptions& options_;

@@ -10,6 +10,10 @@ bool Has(const nlohmann::json& event, const char* member, const char* text) {
   return found != event.end() && found->is_string() && found->get<std::string>() == text;
 }
 
+bool IsInformation(const nlohmann::json& event) {
+  return Has(event, "event", "message") && Has(event, "icon", "information");
+}
+
 }  // namespace
 
 void PublishRecord::Take(const nlohmann::json& event) {
@@ -18,12 +22,14 @@ void PublishRecord::Take(const nlohmann::json& event) {
   if (Has(event, "event", "dialog") && ofProgress) {
     packagingStarted_ = true;
     packagingCancelled_ = false;
+    cancelPressed_ = false;
     warned_ = false;
   }
-  if (Has(event, "event", "closed") && ofProgress) {
-    packagingCancelled_ = Has(event, "answer", "Cancel");
-  }
-  if (Has(event, "event", "message") && !Has(event, "icon", "information")) warned_ = true;
+  // What a cancelled attempt has made is told only if the cancel came too late.
+  if (behindProgress_ && IsInformation(event)) packagingCancelled_ = false;
+  behindProgress_ = Has(event, "event", "closed") && ofProgress;
+  if (behindProgress_) cancelPressed_ = packagingCancelled_ = Has(event, "answer", "Cancel");
+  if (Has(event, "event", "message") && !IsInformation(event)) warned_ = true;
   if (Has(event, "event", "sheet")) sheetOpened_ = true;
   if (Has(event, "event", "closed") && Has(event, "class", kSheetClass)) {
     sheetAnswer_ = event.value("answer", nlohmann::json()).is_string() ? event["answer"] : "";

@@ -20,8 +20,8 @@ class PublishRecord {
   /// The packaging tool was started and not stopped by the user in its last attempt.
   bool PackagingEnded() const { return packagingStarted_ && !packagingCancelled_; }
 
-  /// The user stopped the last attempt.
-  bool PackagingCancelled() const { return packagingCancelled_; }
+  /// The user pressed Cancel in the last attempt, which may have come too late to stop it.
+  bool CancelPressed() const { return cancelPressed_; }
 
   /// Something but plain information was shown since the last attempt began.
   bool WarnedAfterPackaging() const { return packagingStarted_ && warned_; }
@@ -45,6 +45,8 @@ class PublishRecord {
   bool empty_ = true;
   bool packagingStarted_ = false;
   bool packagingCancelled_ = false;
+  bool cancelPressed_ = false;
+  bool behindProgress_ = false;
   bool warned_ = false;
   bool sheetOpened_ = false;
   bool publishPressed_ = false;

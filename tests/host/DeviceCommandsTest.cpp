@@ -69,6 +69,23 @@ TEST_F(DeviceCommandsTest, ACancelledRunLeavesTheRemainingDevicesAlone) {
   run_.devices = {"A1", "B2", "C3"};
   EXPECT_EQ(RunWith(R"("exercise.cancels": "B2")"), kNotDone);
   EXPECT_EQ(folder_.Read("devices.txt"), "A1\nB2\n");
+  EXPECT_THAT(error_.str(), AllOf(HasSubstr("The package was not started on B2.\n"),
+                                  HasSubstr("The package was not started on C3.\n")));
+}
+
+TEST_F(DeviceCommandsTest, ACancelThatComesTooLateForADeviceStopsTheRunBehindIt) {
+  run_.devices = {"A1", "B2"};
+  EXPECT_EQ(RunWith(R"("exercise.cancelsTooLate": "A1")"), kNotDone);
+  EXPECT_EQ(folder_.Read("devices.txt"), "A1\n");
+  EXPECT_THAT(out_.str(), AllOf(HasSubstr("on A1, "), Not(HasSubstr("on B2, "))));
+  EXPECT_THAT(error_.str(), AllOf(Not(HasSubstr("not started on A1")),
+                                  HasSubstr("The package was not started on B2.\n")));
+}
+
+TEST_F(DeviceCommandsTest, ACancelThatComesTooLateForTheLastDeviceLeavesNothingUndone) {
+  run_.devices = {"A1", "B2"};
+  EXPECT_EQ(RunWith(R"("exercise.cancelsTooLate": "B2")"), kDone);
+  EXPECT_THAT(out_.str(), AllOf(HasSubstr("on A1, "), HasSubstr("on B2, ")));
 }
 
 TEST_F(DeviceCommandsTest, ACertificateIsGivenToTheSettingsBeforeTheRun) {

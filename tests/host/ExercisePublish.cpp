@@ -34,11 +34,15 @@ void Write(const std::string& name, const std::string& bytes) {
   std::ofstream(name, std::ios::binary) << bytes;
 }
 
+void TellMade() {
+  Tell(
+      R"({"event":"message","title":"Zenvoka Kestrow","icon":"information","text":"APK file has been created.","buttons":["OK"],"answer":"OK"})");
+}
+
 void Make() {
   Write("Game.apk", kArchive);
   TellProgress("null");
-  Tell(
-      R"({"event":"message","title":"Zenvoka Kestrow","icon":"information","text":"APK file has been created.","buttons":["OK"],"answer":"OK"})");
+  TellMade();
 }
 
 void Break() {
@@ -51,6 +55,13 @@ void Break() {
 void Cancel() {
   Write("Game.apk", kArchive);
   TellProgress(R"("Cancel")");
+}
+
+// A device is served to the end before the library looks at the cancel.
+void CancelTooLate() {
+  Write("Game.apk", kArchive);
+  TellProgress(R"("Cancel")");
+  TellMade();
 }
 
 void RefuseIncluded() {
@@ -114,6 +125,7 @@ void PlayDeviceRun(void* context, void* object) {
   std::ofstream("devices.txt", std::ios::app) << fs::path(serial).string() << "\n";
   if (serial == Data(context, object, u"exercise.fails")) return FailToInstall();
   if (serial == Data(context, object, u"exercise.cancels")) return Cancel();
+  if (serial == Data(context, object, u"exercise.cancelsTooLate")) return CancelTooLate();
   Make();
 }
 
