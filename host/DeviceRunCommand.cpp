@@ -33,6 +33,7 @@ class DeviceRun {
     // Without a name the host takes the first one that is connected.
     std::vector<std::string> devices = options_.devices;
     if (devices.empty()) devices.emplace_back();
+    if (options_.debugs && devices.size() > 1) console_.Message(OneDebugPortText());
     int result = kDone;
     for (std::size_t i = 0; i < devices.size(); ++i) {
       if (devices.size() > 1) console_.Message(DeviceHeading(devices[i], i + 1, devices.size()));

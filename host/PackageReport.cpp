@@ -37,6 +37,10 @@ std::string DeviceHeading(const std::string& device, std::size_t number, std::si
   return "Device " + device + " (" + std::to_string(number) + " of " + std::to_string(count) + ")";
 }
 
+std::string OneDebugPortText() {
+  return "All devices use the same debug port: the debugger reaches the last one that is served.";
+}
+
 std::string StartedText(const std::filesystem::path& package, const std::string& device,
                         std::chrono::duration<double> duration) {
   return "Started " + WithSize(package) + ", " + OnDevice(device) + ", " + Seconds(duration);

@@ -16,6 +16,10 @@ std::string MadeText(const std::filesystem::path& package, std::chrono::duration
 /// "Device A1 (1 of 3)".
 std::string DeviceHeading(const std::string& device, std::size_t number, std::size_t count);
 
+/// That a debugger reaches one device only, as each is served by a library that counts its ports
+/// anew.
+std::string OneDebugPortText();
+
 /// "Started /games/Game.apk, 123 KB, on A1, 9.1 s".
 std::string StartedText(const std::filesystem::path& package, const std::string& device,
                         std::chrono::duration<double> duration);

@@ -88,6 +88,18 @@ TEST_F(DeviceCommandsTest, ACancelThatComesTooLateForTheLastDeviceLeavesNothingU
   EXPECT_THAT(out_.str(), AllOf(HasSubstr("on A1, "), HasSubstr("on B2, ")));
 }
 
+TEST_F(DeviceCommandsTest, ADebugRunOnSeveralDevicesTellsThatTheyShareAPort) {
+  const std::string told =
+      "All devices use the same debug port: the debugger reaches the last one that is served.\n";
+  run_.debugs = true;
+  run_.devices = {"A1"};
+  EXPECT_EQ(RunWith(""), kDone);
+  EXPECT_THAT(error_.str(), Not(HasSubstr(told)));
+  run_.devices = {"A1", "B2"};
+  EXPECT_EQ(RunWith(""), kDone);
+  EXPECT_THAT(error_.str(), HasSubstr(told));
+}
+
 TEST_F(DeviceCommandsTest, ACertificateIsGivenToTheSettingsBeforeTheRun) {
   run_.certificate = folder_.Write("my.p12", "key");
   run_.passwordFile = folder_.Write("password.txt", "secret words\n");

@@ -149,11 +149,12 @@ struct Definition {
   std::uint32_t argumentCount;
 };
 
-constexpr std::array<Definition, 13> kDefinitions = {{
+constexpr std::array<Definition, 14> kDefinitions = {{
     {u"Publish", Publish, 3},
     {u"TestMovie", TestMovie, 4},
     {u"DebugMovie", TestMovie, 4},
     {u"TestOnDevice", TestOnDevice, 3},
+    {u"DebugOnDevice", TestOnDevice, 3},
     {u"OpenSettingDialog", OpenSettingDialog, 3},
     {u"GetConnectedDevices", GetConnectedDevices, 3},
     {u"echo", Echo, 1},
