@@ -2,6 +2,8 @@
 
 #include "packaging/DeviceBridge.h"
 #include "platform/Services.h"
+#include "win/InterfaceLanguage.h"
+#include "win/MessageIds.h"
 #include "win/SettingsKeys.h"
 #include "win/SettingsMap.h"
 
@@ -20,7 +22,11 @@ void InstallOnDevices(PackagerJob& job) {
   WindowHandle window = job.parentWindow;
   if (window == nullptr) window = TheServices().frontEnd->FocusWindow();
   std::u16string errors;
-  if (PostPublishInstall(PackagePath(job), window, errors)) return;
+  try {
+    if (PostPublishInstall(PackagePath(job), window, errors)) return;
+  } catch (...) {  // the package stands; only its way to the devices has failed
+    errors += Message(messages::kUnknownError);
+  }
   job.postPublishOk = 0;
   job.exitCode = -1;
   job.output = errors;

@@ -1,3 +1,5 @@
+#include <new>
+
 #include "PackagingTest.h"
 #include "packaging/PackagerWorker.h"
 
@@ -59,6 +61,23 @@ TEST_F(PackagerWorkerTest, AFailedInstallationTakesThePlaceOfTheToolsResult) {
   EXPECT_EQ(job.output,
             u"Device Serial NumberA : Unable to install the application. Ensure that the selected "
             u"devices are connected.\n\n");
+  EXPECT_EQ(job.postPublishOk, 0);
+  EXPECT_EQ(job.finished, 1);
+}
+
+TEST_F(PackagerWorkerTest, AnErrorThatNobodyForesawInTheInstallationStandsBehindThoseBefore) {
+  SettingsSet(keys::kInstallDevices, u"A:B:");
+  processes.play = [](const std::u16string& line) -> PlayedAnswer {
+    if (line.find(u"-installApp -platform android -device B") != line.npos) throw std::bad_alloc();
+    return line.find(u"-installApp") == line.npos ? PlayedAnswer{"packaged"} : PlayedAnswer{"", 12};
+  };
+
+  EXPECT_EQ(PackagerWorker(job), 0);
+
+  EXPECT_EQ(job.exitCode, -1);
+  EXPECT_EQ(job.output,
+            u"Device Serial NumberA : Unable to install the application. Ensure that the selected "
+            u"devices are connected.\n\nUnknown error.");
   EXPECT_EQ(job.postPublishOk, 0);
   EXPECT_EQ(job.finished, 1);
 }
