@@ -88,12 +88,6 @@ bool IsAttached(const std::vector<DevicePair>& devices, const std::u16string& se
                      [&](const DevicePair& device) { return device.first == serial; });
 }
 
-std::u16string InstallOption() {
-  std::u16string option = SettingsGet(keys::kAdbOption);
-  if (option.empty()) GetRegistryString(u"Last ADB Opt", option);
-  return option;
-}
-
 bool IsInstalling(const std::u16string& option) {
   return option == u"install" || option == u"launch";
 }
@@ -216,6 +210,12 @@ int CheckSelectedDevices(std::u16string& text) {
   });
   if (!all) text = Message(messages::kConnectionFailure);
   return all ? 1 : 0;
+}
+
+std::u16string InstallOption() {
+  std::u16string option = SettingsGet(keys::kAdbOption);
+  if (option.empty()) GetRegistryString(u"Last ADB Opt", option);
+  return option;
 }
 
 bool PostPublishInstall(const std::u16string& packagePath, WindowHandle, std::u16string& errors) {

@@ -40,6 +40,10 @@ int SplitColonList(std::u16string_view text, std::vector<std::u16string>& out);
 /// 1 when a publish may go on as far as its devices are concerned, else 0 and why in `text`.
 int CheckSelectedDevices(std::u16string& text);
 
+/// What happens to a package after its publish: "install", "launch" or something else for nothing.
+/// The settings' choice, or where they have none the one that the user's registry remembers.
+std::u16string InstallOption();
+
 /// Installs and launches the package where the settings ask for it; on the worker thread. False
 /// when it was cancelled or failed; `errors` then holds a block per failed device.
 bool PostPublishInstall(const std::u16string& packagePath, WindowHandle window,

@@ -27,12 +27,6 @@ bool DebugEmbedsRuntime() { return RuntimeIsAtLeast(u"TAV3.8"); }
 // From here on every package embeds the runtime.
 bool RuntimeIsAlwaysEmbedded() { return RuntimeIsAtLeast(u"TAV26.0"); }
 
-std::u16string StoredAfterPublish() {
-  std::u16string option = SettingsGet(keys::kAdbOption);
-  if (option.empty()) GetRegistryString(u"Last ADB Opt", option);
-  return option;
-}
-
 // Unlike other lists of this form, this one may lack the ":" at its end.
 std::vector<std::u16string> StoredDevices() {
   const std::u16string stored = SettingsGet(keys::kInstallDevices);
@@ -163,7 +157,7 @@ void CDigitalSigDlg::LoadDeployType() {
 }
 
 void CDigitalSigDlg::LoadAfterPublish() {
-  const std::u16string option = StoredAfterPublish();
+  const std::u16string option = InstallOption();
   if (option == u"install") afterPublish = kInstall;
   if (option == u"launch") afterPublish = kLaunch;
   ShowAfterPublish();

@@ -258,6 +258,14 @@ TEST_F(DeviceBridgeTest, ARunOnADeviceWithoutANameFindsNone) {
   ExpectCheck(0, kNotConnected);
 }
 
+TEST_F(DeviceBridgeTest, ADeviceInTheNetworkKeepsTheOthersFromBeingFound) {
+  Choose(u"A:");
+  PlayListing("A\tdevice\n127.0.0.1:5555\tdevice");
+
+  ExpectCheck(0, kNotConnected);
+  EXPECT_EQ(SettingsGet(keys::kDeviceSerials), u"A:127.0.0.1:5555:");
+}
+
 TEST_F(DeviceBridgeTest, EachCheckListsAnew) {
   Choose(u"A:");
   DeviceListFetched = true;

@@ -299,6 +299,19 @@ TEST_F(DeviceInstallTest, ACancelBetweenTwoDevicesLeavesTheSecondAlone) {
   EXPECT_EQ(errors, u"");
 }
 
+TEST_F(DeviceInstallTest, ACancelKeepsTheErrorsOfTheDevicesBefore) {
+  SettingsSet(keys::kInstallDevices, u"A:B:C:");
+  processes.play = [](const std::u16string& line) {
+    if (line == Uninstall(u"B")) PublishCancelled = 1;
+    return PlayedAnswer{"", line == Install(u"A") ? 12u : 0u};
+  };
+
+  EXPECT_FALSE(InstallPackage());
+
+  EXPECT_EQ(errors, Block(u"A", kUnreachable));
+  EXPECT_EQ(processes.CommandLines().back(), Install(u"B"));
+}
+
 TEST_F(DeviceInstallTest, ACancelledPublishInstallsNothingAndTellsNothing) {
   PublishCancelled = 1;
 
