@@ -1,30 +1,19 @@
 #include "win/DebugMovie.h"
 
 #include "packaging/DescriptorGenerator.h"
-#include "platform/Services.h"
 #include "support/ProcessRunner.h"
 #include "win/DocumentChecks.h"
 #include "win/DocumentContext.h"
-#include "win/DocumentPaths.h"
 #include "win/HostScript.h"
 #include "win/LaunchCall.h"
 #include "win/SimulatorController.h"
 
 namespace qutav {
-namespace {
-
-bool ProvideDescriptor(const HostCallContext& call) {
-  if (TheServices().files->Exists(DocumentPaths.DescriptorPath)) return true;
-  return FollowMovedDocument(call) || GenerateDefaultDescriptor() != 0;
-}
-
-}  // namespace
-
 std::int32_t RunDebugMovie(const HostCallContext& call, const HostValue* arguments) {
   KillDebugLaunchers();
   if (!PrepareDocumentContext(call, arguments[0], arguments[1], arguments[2])) return 1;
   const CommandProfileText profile = HostTextOrNull(call, arguments[3]);
-  if (!ProvideDescriptor(call)) return 0;
+  if (!HasOrRelocatesDescriptor(call) && GenerateDefaultDescriptor() == 0) return 0;
   UpdateExtensionIds();
   if (!OpenDescriptor()) return 1;
   const HostLaunch launch = BuildLaunchCall(call, profile, true);

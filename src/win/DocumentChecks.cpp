@@ -103,6 +103,10 @@ bool FollowMovedDocument(const HostCallContext& call) {
   return true;
 }
 
+bool HasOrRelocatesDescriptor(const HostCallContext& call) {
+  return TheServices().files->Exists(DocumentPaths.DescriptorPath) || FollowMovedDocument(call);
+}
+
 bool OpenDescriptor() {
   DocumentPaths.ActiveDescriptorPath = DocumentPaths.DescriptorPath.Text();
   if (!LaunchDescriptor.IsParserReady()) LaunchDescriptor.InitParser();

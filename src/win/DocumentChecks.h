@@ -28,6 +28,10 @@ void RelocateDescriptor(const HostCallContext& call, const std::u16string& folde
 /// document's new path; false, and nothing done, when it was not moved.
 bool FollowMovedDocument(const HostCallContext& call);
 
+/// Whether the document has a descriptor: one that is there, whatever became of the document, or
+/// else the one that followed it. False where one has to be generated.
+bool HasOrRelocatesDescriptor(const HostCallContext& call);
+
 /// Opens the descriptor, brings its namespace to that of the SDK, writing it back when it differs,
 /// and closes it. False, and a message shown, when it cannot be parsed.
 bool OpenDescriptor();

@@ -2,14 +2,12 @@
 
 #include "packaging/DescriptorGenerator.h"
 #include "packaging/DeviceBridge.h"
-#include "platform/Services.h"
 #include "platform/Text.h"
 #include "settings_ui/PublishEntry.h"
 #include "support/RegistryStore.h"
 #include "win/DocumentChecks.h"
 #include "win/DocumentContext.h"
 #include "win/DocumentData.h"
-#include "win/DocumentPaths.h"
 #include "win/HostScript.h"
 #include "win/SettingsKeys.h"
 #include "win/SettingsMap.h"
@@ -40,8 +38,7 @@ void FetchSelectedDevice(const HostCallContext& call) {
 
 // False when no descriptor could be provided.
 bool ProvideDescriptor(const HostCallContext& call) {
-  if (TheServices().files->Exists(DocumentPaths.DescriptorPath)) return true;
-  if (FollowMovedDocument(call)) return true;
+  if (HasOrRelocatesDescriptor(call)) return true;
   if (DocumentHasNoStoredFolder(call)) DetectOutputType(call);
   return GenerateDefaultDescriptor() != 0;
 }

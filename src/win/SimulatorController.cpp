@@ -13,7 +13,7 @@ namespace qutav {
 namespace {
 
 constexpr std::int32_t kBeforeFirstPort = 7835;
-constexpr std::int32_t kLastWrappingPort = 7844;
+constexpr std::int32_t kLastPort = 7845;
 constexpr std::chrono::milliseconds kStartTime{1000};
 
 }  // namespace
@@ -21,7 +21,7 @@ constexpr std::chrono::milliseconds kStartTime{1000};
 std::int32_t SimulatorPort = kBeforeFirstPort;
 
 void AdvanceSimulatorPort() {
-  if (SimulatorPort > kLastWrappingPort) SimulatorPort = kBeforeFirstPort;
+  if (SimulatorPort >= kLastPort) SimulatorPort = kBeforeFirstPort;
   ++SimulatorPort;
 }
 

@@ -22,8 +22,6 @@ namespace {
 constexpr std::size_t kProfileArgument = 3;
 constexpr std::int32_t kHostAsksForPlainLaunch = 2;
 
-bool HasDescriptor() { return TheServices().files->Exists(DocumentPaths.DescriptorPath); }
-
 // A single scene is exported under a name of its own, each time with a descriptor of its own.
 bool NamesScene() {
   return DocumentPaths.MovieBaseName.Text().find(u"_Scene ") != std::u16string::npos;
@@ -31,13 +29,14 @@ bool NamesScene() {
 
 bool ProvideKnownDescriptor(const HostCallContext& call) {
   if (NamesScene()) return GenerateDefaultDescriptor() != 0;
-  return HasDescriptor() || FollowMovedDocument(call) || GenerateDefaultDescriptor() != 0;
+  return HasOrRelocatesDescriptor(call) || GenerateDefaultDescriptor() != 0;
 }
 
 bool ProvideFirstDescriptor(const HostCallContext& call) {
   DetectOutputType(call);
   SettingsSet(keys::kDocumentPath, DocumentPaths.DocumentPath.Text());
-  return HasDescriptor() || GenerateDefaultDescriptor() != 0;
+  return TheServices().files->Exists(DocumentPaths.DescriptorPath) ||
+         GenerateDefaultDescriptor() != 0;
 }
 
 // The status with which the caller ends; nothing when the descriptor is ready.
@@ -70,14 +69,6 @@ std::u16string PlainLaunchCommand(const HostCallContext& call, const CommandProf
   return command;
 }
 
-// The only sign of a launch that failed.
-void TraceOutput(const HostCallContext& call, const std::u16string& output) {
-  std::u16string text = ReplaceAll(output, u"\r", u"");
-  text = ReplaceAll(text, u"\n", u"\\n");
-  text = ReplaceAll(text, u"\"", u"'");
-  EvaluateHostScript(call, u"qu.trace(\"" + text + u"\");");
-}
-
 std::int32_t TestOlderDocument(const HostCallContext& call, const HostValue* arguments) {
   HostValue exported = 0;
   const std::int32_t status = ExportMovieForTest(call, DocumentPaths.MovieUri, exported);
@@ -105,11 +96,20 @@ std::int32_t ExportMovieForTest(const HostCallContext& call, const std::u16strin
   return exported.status;
 }
 
+std::u16string TraceScript(const std::u16string& output) {
+  std::u16string text = ReplaceAll(output, u"\r", u"");
+  text = ReplaceAll(text, u"\n", u"\\n");
+  text = ReplaceAll(text, u"\"", u"'");
+  return u"qu.trace(\"" + text + u"\");";
+}
+
 std::int32_t RunPlainLaunch(const HostCallContext& call, const HostValue* arguments) {
   std::u16string output;
   const CommandProfileText profile = HostTextOrNull(call, arguments[kProfileArgument]);
   if (const auto status = PrepareDescriptor(call)) return *status;
-  if (RunProcess(PlainLaunchCommand(call, profile), false, output) != 0) TraceOutput(call, output);
+  if (RunProcess(PlainLaunchCommand(call, profile), false, output) != 0) {
+    EvaluateHostScript(call, TraceScript(output));  // the only sign of a launch that failed
+  }
   return 1;
 }
 

@@ -89,6 +89,15 @@ TEST_F(DebugMovieTest, TheEvaluationsStatusIsTheFunctions) {
   EXPECT_EQ(Debug(), 0);
 }
 
+TEST_F(DebugMovieTest, AHostThatEvaluatesNothingLaunchesNothing) {
+  HostEnvironment.words[55] = 0;
+
+  EXPECT_EQ(Debug(), 0);
+
+  EXPECT_THAT(Launches(), IsEmpty());
+  EXPECT_THAT(Commands(), IsEmpty());
+}
+
 TEST_F(DebugMovieTest, AContextThatCannotBePreparedCountsAsSuccess) {
   movieUri = u"file:///C:/gone/Game.qmv";
 

@@ -66,6 +66,27 @@ TEST_F(TestMovieTest, TheEvaluationsStatusIsTheFunctions) {
   EXPECT_EQ(Test(), 0);
 }
 
+TEST_F(TestMovieTest, AHostThatEvaluatesNothingLaunchesNothing) {
+  HostEnvironment.words[55] = 0;
+
+  EXPECT_EQ(Test(), 0);
+
+  EXPECT_THAT(Launches(), IsEmpty());
+  EXPECT_THAT(Commands(), IsEmpty());
+}
+
+TEST_F(TestMovieTest, AHostThatEvaluatesNothingAfterTheScriptVersionLaunchesNothing) {
+  host.onScript = [](const std::u16string& script) {
+    if (script == u"qu.getDocumentDOM().asVersion") HostEnvironment.words[55] = 0;
+    return std::nullopt;
+  };
+
+  EXPECT_EQ(Test(), 0);
+
+  EXPECT_THAT(Launches(), IsEmpty());
+  EXPECT_THAT(Commands(), IsEmpty());
+}
+
 TEST_F(TestMovieTest, AContextThatCannotBePreparedCountsAsSuccess) {
   movieUri = u"file:///C:/gone/Game.qmv";
 
@@ -366,6 +387,10 @@ TEST_F(PlainLaunchTest, ALaunchThatFailsLeavesATrace) {
   EXPECT_EQ(Test(), 1);
 
   EXPECT_EQ(host.scripts.back(), u"qu.trace(\"\");");
+}
+
+TEST(TraceScriptTest, AnOutputIsOneTextOfTheScriptLanguage) {
+  EXPECT_EQ(TraceScript(u"a\"b\r\nc"), u"qu.trace(\"a'b\\nc\");");
 }
 
 TEST_F(PlainLaunchTest, ALaunchThatSucceedsLeavesNone) {
