@@ -17,6 +17,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "devices"))
 from adb_farm import Farm, wait_until  # pylint: disable=wrong-import-position
 
 BUILD = pathlib.Path(os.environ["QUTAV_BUILD"])
+KIT = BUILD / "TAV26.0"
 SWIFT_CLOCK = os.environ["QUTAV_SWIFT_CLOCK"]
 SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "samples" / "Game"
 PASSWORD = "practice-only"
@@ -61,7 +62,7 @@ class PublishTest(unittest.TestCase):
         cls.no_devices = cls.enterClassContext(Farm(cls.shared))
         cls.keystore = cls.shared / "keys" / "sample.p12"
         cls.keystore.parent.mkdir()
-        made = run("java", "-jar", BUILD / "TAV26.0" / "lib" / "KOB.jar", "-certificate",
+        made = run("java", "-jar", KIT / "lib" / "KOB.jar", "-certificate",
                    "-cn", "Sample Publisher", "-ou", "Games", "-o", "Sample Studio", "-c", "US",
                    "-validityPeriod", "25", "2048-RSA", cls.keystore, PASSWORD)
         assert made.returncode == 0, made.stdout + made.stderr
@@ -209,6 +210,14 @@ class DeviceTest(PublishTest):
     def tearDown(self):
         self.farm.stop()
         super().tearDown()
+
+    def add_address_of(self, device):
+        """Lets the server see the device by its address, too; offline, as the device is taken. Gives
+        the address."""
+        address = f"127.0.0.1:{device.port}"
+        self.farm.adb("connect", address)
+        wait_until(lambda: address in self.farm.states(), f"{address} is listed")
+        return address
 
     def assert_served(self, device):
         """The device has received the very package, and started it."""

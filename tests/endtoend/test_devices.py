@@ -3,15 +3,15 @@
 import json
 import unittest
 
-from harness import DeviceTest, run, wait_until
+from harness import KIT, DeviceTest, java_home, run, wait_until
 
 UNREACHABLE = "Unable to install the application. Ensure that the selected devices are connected."
 MADE = "APK file has been created."
 
 
 class Devices(DeviceTest):
-    def devices(self):
-        return run(*self.command("devices"), env=self.environment, timeout=60)
+    def devices(self, version="26.0"):
+        return run(*self.command("devices", version=version), env=self.environment, timeout=60)
 
     def test_every_device_is_listed_whatever_its_state(self):
         devices = [self.farm.add("one"), self.farm.add("two", state="offline"),
@@ -21,6 +21,31 @@ class Devices(DeviceTest):
 
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.assertCountEqual(result.stdout.splitlines(), [device.serial for device in devices])
+
+    def test_a_device_in_the_network_is_listed_and_told_to_be_in_the_way(self):
+        device = self.farm.add("one")
+        address = self.add_address_of(device)
+
+        result = self.devices()
+
+        self.assertEqual(result.returncode, 0)
+        self.assertCountEqual(result.stdout.splitlines(), [device.serial, address])
+        self.assertEqual(result.stderr,
+                         f"{address} is a device in the network: while it is attached, no device "
+                         f"can be used. Run \"adb disconnect {address}\" first.\n")
+
+    def test_a_level_that_sorts_behind_as_text_has_the_tool_list_the_same_devices(self):
+        calls = self.folder / "calls"
+        self.install_tool(f'echo "$@" >>"{calls}"\nexec "{java_home()}/bin/java" "$@"\n')
+        self.set_data("com.tav.sdk.path", str(KIT))
+        devices = [self.farm.add("one"), self.farm.add("two", state="offline")]
+
+        result = self.devices(version="33.0")
+
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertCountEqual(result.stdout.splitlines(), [device.serial for device in devices])
+        self.assertEqual(calls.read_text(encoding="utf-8"),
+                         f"-jar {KIT}/lib/KOB.jar -devices -platform android\n")
 
     def test_without_a_device_nothing_is_listed(self):
         result = self.devices()
