@@ -1,6 +1,6 @@
 // Stands in Java's place: keeps its arguments, and prints and ends as a file says. The variable
-// QUTAV_FAKE_TOOL_FOLDER names the folder in which both files lie. A copy of it in adb's place knows
-// no device.
+// QUTAV_FAKE_TOOL_FOLDER names the folder in which both files lie. A copy of it in adb's place
+// knows no device.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
