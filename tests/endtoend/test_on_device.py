@@ -43,7 +43,8 @@ class OnDevice(DeviceTest):
                          rf"\AStarted {self.package}, \d+ KB, on the first device, [\d.]+ s\n\Z")
         self.assertIn(f"Selected device: {device.serial}\n", result.stderr)
         self.assertEqual(self.kinds(),
-                         ["sheet", "pressed", "dialog", "closed", "message"])
+                         ["sheet", "page", "page", "pressed", "closed",  # for the certificate
+                          "dialog", "closed", "message"])
         self.assertEqual(self.messages(), [MADE])
         self.assert_published(result, self.package)
         self.assert_served(device)
