@@ -1,6 +1,5 @@
 #include "host/SettingsTable.h"
 
-#include <algorithm>
 #include <map>
 #include <vector>
 

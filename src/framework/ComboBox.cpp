@@ -36,12 +36,7 @@ int ComboBox::FindString(const std::u16string& beginning) const {
   return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
-int ComboBox::FindStringExact(const std::u16string& row) const {
-  const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const std::u16string& other) {
-    return RowsEqual(other, row);
-  });
-  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
-}
+int ComboBox::FindStringExact(const std::u16string& row) const { return FindEqualRow(rows_, row); }
 
 void ComboBox::SetCurSel(int index) {
   selection_ = index >= 0 && index < GetCount() ? index : -1;

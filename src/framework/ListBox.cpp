@@ -16,12 +16,7 @@ void ListBox::DeleteString(int index) {
   if (selection_ > index) --selection_;
 }
 
-int ListBox::FindStringExact(const std::u16string& row) const {
-  const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const std::u16string& other) {
-    return RowsEqual(other, row);
-  });
-  return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
-}
+int ListBox::FindStringExact(const std::u16string& row) const { return FindEqualRow(rows_, row); }
 
 void ListBox::SetCurSel(int index) { selection_ = index >= 0 && index < GetCount() ? index : -1; }
 

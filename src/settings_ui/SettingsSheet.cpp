@@ -86,12 +86,15 @@ void CSettingsPropSheet::SheetOk() {
   EndDialog(kIdOk);
 }
 
+template <typename Page>
+void CSettingsPropSheet::StoreDeployment(Page& page, bool& reported) {
+  if (!page.initialised) return;
+  page.SaveToSettings(false);
+  reported = reported || page.changed;
+}
+
 bool CSettingsPropSheet::StoreAndroidPages(bool& reported) {
-  CDigitalSigDlg& deployment = settingsPages_->androidDeployment;
-  if (deployment.initialised) {
-    deployment.SaveToSettings(false);
-    reported = reported || deployment.changed;
-  }
+  StoreDeployment(settingsPages_->androidDeployment, reported);
   settingsPages_->permissions.SavePermissions();
   reported = reported || settingsPages_->permissions.changed;
   if (settingsPages_->languages.initialised) settingsPages_->languages.SaveLanguages();
@@ -100,11 +103,7 @@ bool CSettingsPropSheet::StoreAndroidPages(bool& reported) {
 
 // The languages are not stored here: on this form they reach the descriptor through Publish alone.
 bool CSettingsPropSheet::StoreIosPages(bool& reported) {
-  CVolDeployDlg& deployment = settingsPages_->iosDeployment;
-  if (deployment.initialised) {
-    deployment.SaveToSettings(false);
-    reported = reported || deployment.changed;
-  }
+  StoreDeployment(settingsPages_->iosDeployment, reported);
   return StoreGeneralPage(reported);
 }
 

@@ -30,6 +30,8 @@ class CSettingsPropSheet final : public CPropertySheet, public CSettingsPropShee
 
   /// Stores the pages that were visited, and ends the sheet unless one refused.
   void SheetOk();
+  template <typename Page>
+  void StoreDeployment(Page& page, bool& reported);
   bool StoreAndroidPages(bool& reported);
   bool StoreIosPages(bool& reported);
   bool StoreGeneralPage(bool& reported);
