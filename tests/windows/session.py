@@ -52,6 +52,9 @@ def wine(prefix, environment):
                                 check=False, capture_output=True, text=True, timeout=60)
         if booted.returncode != 0 or answer.stdout.strip() != "ready":
             refuse(f"Wine does not start (wineboot gave {booted.returncode}): {answer.stderr}")
+        # No window manager is there to wait for, two seconds for each window.
+        subprocess.run(["wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed",
+                        "/d", "N", "/f"], check=True, timeout=60, **quiet)
         yield
     except subprocess.TimeoutExpired as late:
         refuse(f"Wine does not answer: {late}")
