@@ -1,6 +1,7 @@
 #include "framework/windows/NativeFrontEnd.h"
 
 #include "framework/scripted/ScriptedFrontEnd.h"
+#include "framework/windows/FileDialogs.h"
 #include "platform/FrontEnd.h"
 #include "platform/windows/System.h"
 #include "platform/windows/Wide.h"
@@ -38,7 +39,8 @@ Rectangle RectangleOf(HWND window) {
   return {rectangle.left, rectangle.top, rectangle.right, rectangle.bottom};
 }
 
-// Messages are the system's own; dialogs and the sheet are run without a window.
+// Messages and the choosers of files and folders are the system's own; dialogs and the sheet are
+// run without a window.
 class NativeFrontEnd final : public FrontEnd {
  public:
   WindowHandle FocusWindow() override { return GetFocus(); }
@@ -61,10 +63,10 @@ class NativeFrontEnd final : public FrontEnd {
   int RunModal(CPropertySheet& sheet) override { return EnvironmentFrontEnd().RunModal(sheet); }
 
   std::optional<std::u16string> ChooseFile(const FileDialogRequest& request) override {
-    return EnvironmentFrontEnd().ChooseFile(request);
+    return ShowFileDialog(request);
   }
   std::optional<std::u16string> ChooseFolder(const FolderDialogRequest& request) override {
-    return EnvironmentFrontEnd().ChooseFolder(request);
+    return ShowFolderDialog(request);
   }
   void OpenLink(const std::u16string& url) override {
     ShellExecuteW(nullptr, L"open", Wide(url), nullptr, nullptr, SW_SHOWNORMAL);
