@@ -8,9 +8,11 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "framework/Control.h"
+#include "framework/Layout.h"
 #include "platform/FrontEnd.h"
 
 namespace qutav {
@@ -54,6 +56,9 @@ class CDialog {
   const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
   const std::map<TimerId, std::chrono::milliseconds>& Timers() const { return timers_; }
 
+  /// Where its controls stand. A sheet has none.
+  const Layout& GetLayout() const { return layout_; }
+
   /// Where the dialog moved itself; meaningful once `IsPlaced`.
   int Left() const { return left_; }
   int Top() const { return top_; }
@@ -77,6 +82,7 @@ class CDialog {
     return Insert<Kind>(IndexOf(other) + 1, label, captionId);
   }
   void Remove(const Control& control);
+  void SetLayout(Layout layout) { layout_ = std::move(layout); }
 
   void SetTimer(TimerId id, std::chrono::milliseconds period) { timers_[id] = period; }
   void KillTimer(TimerId id) { timers_.erase(id); }
@@ -100,6 +106,7 @@ class CDialog {
   WindowHandle parent_;
   std::u16string title_;
   std::vector<std::unique_ptr<Control>> controls_;
+  Layout layout_;
   std::map<TimerId, std::chrono::milliseconds> timers_;
   int left_ = 0;
   int top_ = 0;
