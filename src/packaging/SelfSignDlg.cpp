@@ -20,6 +20,10 @@
 namespace qutav {
 namespace {
 
+// Dialog units.
+constexpr int kCountryWidth = 50;
+constexpr int kTypeWidth = 70;
+
 // Appends an option with a field's text in double quotes; false when the field is empty.
 bool AppendRequired(std::u16string& arguments, const std::u16string& option, const Control& field) {
   if (field.text.empty()) return false;
@@ -54,14 +58,14 @@ std::optional<std::u16string> FailureText(std::int32_t exitCode, const std::u16s
 
 CSelfSignDlg::CSelfSignDlg(WindowHandle parent)
     : CDialog(u"CSelfSignDlg", texts::kCertificateTitle, parent) {
-  AddFields();
-  AddType();
-  AddValidity();
-  AddDestination();
-  AddButtons();
+  using namespace layout;
+  SetLayout(Column(
+      {Form(Joined({AddFields(), {AddType(), AddValidity(), AddDestination()}})), AddButtons()},
+      kUnrelated));
 }
 
-void CSelfSignDlg::AddFields() {
+layout::FormLines CSelfSignDlg::AddFields() {
+  using namespace layout;
   publisher_ = &Add<Edit>(u"Publisher name:", texts::kCertificatePublisher);
   unit_ = &Add<Edit>(u"Organization unit:", texts::kCertificateUnit);
   organization_ = &Add<Edit>(u"Organization name:", texts::kCertificateOrganization);
@@ -71,32 +75,44 @@ void CSelfSignDlg::AddFields() {
   password_->style = EditStyle::kPassword;
   confirmation_ = &Add<Edit>(u"Confirm password:", texts::kCertificateConfirmation);
   confirmation_->style = EditStyle::kPassword;
+  return {Line(*publisher_),    Line(*unit_),
+          Line(*organization_), Line(*country_, Fixed(*country_, kCountryWidth)),
+          Line(*password_),     Line(*confirmation_)};
 }
 
 // There is no choice: every certificate has the longer key.
-void CSelfSignDlg::AddType() {
+layout::FormLine CSelfSignDlg::AddType() {
   type_ = &Add<ComboBox>(u"Type:", texts::kCertificateType);
   type_->style = ComboStyle::kDropList;
   type_->enabled = false;
+  return layout::Line(*type_, layout::Fixed(*type_, kTypeWidth));
 }
 
-void CSelfSignDlg::AddValidity() {
+layout::FormLine CSelfSignDlg::AddValidity() {
+  using namespace layout;
   validity_ = &Add<Edit>(u"Validity period:", texts::kCertificateValidity);
   validity_->style = EditStyle::kDigits;
-  Add<Label>(u"years", texts::kCertificateYears);
+  auto& years = Add<Label>(u"years", texts::kCertificateYears);
+  return Line(*validity_, Row({Number(*validity_), years}));
 }
 
-void CSelfSignDlg::AddDestination() {
+layout::FormLine CSelfSignDlg::AddDestination() {
+  using namespace layout;
   destination_ = &Add<Edit>(u"Save as:", texts::kCertificateSaveAs);
-  Add<Button>(u"Browse...", texts::kCertificateBrowse).onClick = [this] { BrowseDestination(); };
+  auto& browse = Add<Button>(u"Browse...", texts::kCertificateBrowse);
+  browse.onClick = [this] { BrowseDestination(); };
+  return Line(*destination_, Row({*destination_, browse}));
 }
 
-void CSelfSignDlg::AddButtons() {
-  Add<Button>(u"Help", texts::kCertificateHelp).onClick = [] { OpenHelpLink(kAndroidHelp); };
+Layout CSelfSignDlg::AddButtons() {
+  auto& help = Add<Button>(u"Help", texts::kCertificateHelp);
+  help.onClick = [] { OpenHelpLink(kAndroidHelp); };
   auto& ok = Add<Button>(u"OK", texts::kCertificateOk);
   ok.isDefault = true;
   ok.onClick = [this] { OnOK(); };
-  Add<Button>(u"Cancel", texts::kCertificateCancel).onClick = [this] { OnCancel(); };
+  auto& cancel = Add<Button>(u"Cancel", texts::kCertificateCancel);
+  cancel.onClick = [this] { OnCancel(); };
+  return layout::Buttons({help, ok, cancel});
 }
 
 bool CSelfSignDlg::OnInitDialog() {

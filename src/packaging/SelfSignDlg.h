@@ -4,6 +4,7 @@
 
 #include "framework/CDialog.h"
 #include "framework/ComboBox.h"
+#include "framework/layout/Parts.h"
 
 namespace qutav {
 
@@ -27,11 +28,11 @@ class CSelfSignDlg : public CDialog {
   bool OnInitDialog() override;
 
  private:
-  void AddFields();
-  void AddType();
-  void AddValidity();
-  void AddDestination();
-  void AddButtons();
+  layout::FormLines AddFields();
+  layout::FormLine AddType();
+  layout::FormLine AddValidity();
+  layout::FormLine AddDestination();
+  Layout AddButtons();
   void BrowseDestination();
   std::u16string StartName() const;
   void AddKeystoreEnding();

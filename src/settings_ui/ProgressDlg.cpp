@@ -1,5 +1,6 @@
 #include "settings_ui/ProgressDlg.h"
 
+#include "framework/layout/Parts.h"
 #include "packaging/PublishCancelled.h"
 #include "platform/Services.h"
 #include "settings_ui/DialogTexts.h"
@@ -13,9 +14,12 @@ constexpr std::chrono::milliseconds kTick{1000};
 }  // namespace
 
 CProgressDlg::CProgressDlg(WindowHandle parent) : CDialog(u"CProgressDlg", 0, parent) {
-  Add<Label>(u"Publishing ...", texts::kProgressText);
+  using namespace layout;
+  auto& text = Add<Label>(u"Publishing ...", texts::kProgressText);
   bar_ = &Add<ProgressBar>(u"");
-  Add<Button>(u"Cancel", texts::kProgressCancel).onClick = [this] { OnCancel(); };
+  auto& cancel = Add<Button>(u"Cancel", texts::kProgressCancel);
+  cancel.onClick = [this] { OnCancel(); };
+  SetLayout(Column({Column({text, *bar_}), Buttons({cancel})}, kUnrelated));
   PublishCancelled.store(0, std::memory_order_relaxed);
 }
 

@@ -1,5 +1,6 @@
 #include "settings_ui/SignaturePasswordDlg.h"
 
+#include "framework/layout/Parts.h"
 #include "settings_ui/DialogTexts.h"
 #include "win/SettingsKeys.h"
 #include "win/SettingsMap.h"
@@ -10,11 +11,16 @@ CSignaturePasswordDlg::CSignaturePasswordDlg(WindowHandle parent)
     : CDialog(u"CSignaturePasswordDlg", texts::kPasswordTitle, parent),
       password_(&Add<Edit>(u"Password:", texts::kPasswordLabel)),
       remember_(&Add<CheckBox>(u"Remember password", texts::kPasswordRemember)) {
+  using namespace layout;
   password_->style = EditStyle::kPassword;
   auto& ok = Add<Button>(u"OK", texts::kPasswordOk);
   ok.isDefault = true;
   ok.onClick = [this] { OnOK(); };
-  Add<Button>(u"Cancel", texts::kPasswordCancel).onClick = [this] { OnCancel(); };
+  auto& cancel = Add<Button>(u"Cancel", texts::kPasswordCancel);
+  cancel.onClick = [this] { OnCancel(); };
+  SetLayout(Column({Form({Line(*password_, Field(*password_, 140)), Indented(*remember_)}),
+                    Buttons({ok, cancel})},
+                   kUnrelated));
 }
 
 void CSignaturePasswordDlg::OnOK() {
