@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/layout/Parts.h"
 #include "packaging/SelfSignDlg.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
@@ -49,24 +50,29 @@ std::vector<MarketEntry> ReadHostMarkets() {
 
 CDigitalSigDlg::CDigitalSigDlg()
     : CPropertyPage(u"CDigitalSigDlg", u"Deployment", texts::kDeployTitle) {
-  AddCertificateControls();
-  AddDeploymentControls();
-  AddRuntimeControls();
-  AddDeviceControls();
+  SetLayout(layout::Column({AddCertificateControls(), AddDeploymentControls(), AddRuntimeControls(),
+                            AddDeviceControls()},
+                           layout::kUnrelated));
 }
 
-void CDigitalSigDlg::AddCertificateControls() {
+Layout CDigitalSigDlg::AddCertificateControls() {
+  using namespace layout;
   certificate_ = &Add<ComboBox>(u"Certificate:", texts::kDeployCertificate);
   certificate_->sorted = true;
-  Add<Button>(u"Browse...", texts::kDeployBrowse).onClick = [this] { BrowseCertificate(); };
-  Add<Button>(u"Create...", texts::kDeployCreate).onClick = [this] { CreateCertificate(); };
+  auto& browse = Add<Button>(u"Browse...", texts::kDeployBrowse);
+  browse.onClick = [this] { BrowseCertificate(); };
+  auto& create = Add<Button>(u"Create...", texts::kDeployCreate);
+  create.onClick = [this] { CreateCertificate(); };
   password_ = &Add<Edit>(u"Password:", texts::kDeployPassword);
   password_->style = EditStyle::kPassword;
   remember_ = &Add<CheckBox>(u"Remember password for this session", texts::kDeployRemember);
+  return Form({Line(*certificate_, Row({*certificate_, SameWidth({browse, create})})),
+               Line(*password_), Indented(*remember_)});
 }
 
-void CDigitalSigDlg::AddDeploymentControls() {
-  Add<GroupBox>(u"Android deployment type", texts::kDeployType);
+Layout CDigitalSigDlg::AddDeploymentControls() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"Android deployment type", texts::kDeployType);
   auto& release = Add<RadioButton>(u"Device release", texts::kDeployDeviceRelease);
   release.onClick = [this] { ChooseDeviceRelease(); };
   auto& emulator = Add<RadioButton>(u"Emulator release", texts::kDeployEmulatorRelease);
@@ -78,10 +84,13 @@ void CDigitalSigDlg::AddDeploymentControls() {
   network_->style = ComboStyle::kDropList;
   network_->sorted = true;
   network_->onSelectionEnd = [this] { changed = true; };
+  return Group(group,
+               Column({Row({release, emulator, debug}, kUnrelated), Form({Line(*network_)})}));
 }
 
-void CDigitalSigDlg::AddRuntimeControls() {
-  Add<GroupBox>(u"TAV runtime", texts::kDeployRuntime);
+Layout CDigitalSigDlg::AddRuntimeControls() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"TAV runtime", texts::kDeployRuntime);
   auto& embed = Add<RadioButton>(u"Embed TAV runtime with application", texts::kDeployEmbed);
   embed.onClick = [this] { market_->enabled = false; };
   auto& getFrom = Add<RadioButton>(u"Get TAV runtime from:", texts::kDeployGetFrom);
@@ -89,10 +98,12 @@ void CDigitalSigDlg::AddRuntimeControls() {
   for (RadioButton* radio : {&embed, &getFrom}) runtimeRadios_.Add(*radio);
   market_ = &Add<ComboBox>(u"Get TAV runtime from:", texts::kDeployGetFrom);
   market_->style = ComboStyle::kDropList;
+  return Group(group, Column({embed, Row({getFrom, *market_})}));
 }
 
-void CDigitalSigDlg::AddDeviceControls() {
-  Add<GroupBox>(u"After publishing", texts::kDeployAfter);
+Layout CDigitalSigDlg::AddDeviceControls() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"After publishing", texts::kDeployAfter);
   install_ =
       &Add<CheckBox>(u"Install application on the connected Android device", texts::kDeployInstall);
   install_->onClick = [this] { SwitchInstall(); };
@@ -103,6 +114,7 @@ void CDigitalSigDlg::AddDeviceControls() {
   devices_->columnWidth = 160;
   refresh_ = &Add<Button>(u"Refresh", texts::kDeployRefresh);
   refresh_->onClick = [this] { RefreshList(); };
+  return Group(group, Column({*install_, *launch_, Row({List(*devices_, 3, 120), *refresh_})}));
 }
 
 // --- Loading -----------------------------------------------------------------------------------

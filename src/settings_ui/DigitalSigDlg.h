@@ -52,10 +52,10 @@ class CDigitalSigDlg : public CPropertyPage {
   bool OnInitDialog() override;
 
  private:
-  void AddCertificateControls();
-  void AddDeploymentControls();
-  void AddRuntimeControls();
-  void AddDeviceControls();
+  Layout AddCertificateControls();
+  Layout AddDeploymentControls();
+  Layout AddRuntimeControls();
+  Layout AddDeviceControls();
 
   void LoadCertificates();
   void LoadPassword();

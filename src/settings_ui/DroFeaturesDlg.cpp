@@ -1,5 +1,6 @@
 #include "settings_ui/DroFeaturesDlg.h"
 
+#include "framework/layout/Parts.h"
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
 #include "settings_ui/FeatureFile.h"
@@ -11,6 +12,9 @@
 
 namespace qutav {
 namespace {
+
+// Dialog units.
+constexpr int kTextWidth = 260;
 
 bool IsManualMode() {
   return EqualsIgnoringCase(SettingsGet(keys::kIgnoreManifestAdditions), u"true");
@@ -27,14 +31,20 @@ CDroFeaturesDlg::CDroFeaturesDlg()
       manual_(&Add<CheckBox>(u"Manually manage permissions and manifest additions in the "
                              u"application descriptor file",
                              texts::kPermissionsManual)) {
-  Add<Label>(u"Select the permissions below that will be required in your application:",
-             texts::kPermissionsInvitation);
+  using namespace layout;
+  auto& invitation =
+      Add<Label>(u"Select the permissions below that will be required in your application:",
+                 texts::kPermissionsInvitation);
   list_ = &Add<CheckList>(u"Permission Name", messages::kPermissionName);
   list_->fullRowSelect = true;
   description_ = &Add<Edit>(u"Description:", texts::kPermissionsDescription);
   description_->style = EditStyle::kReadOnly;
   manual_->onClick = [this] { OnManualClicked(); };
   list_->onChange = [this] { OnListChanged(); };
+  SetLayout(Column({Wrapped(*manual_, kTextWidth),
+                    Column({Wrapped(invitation, kTextWidth), List(*list_, 9, kTextWidth)}),
+                    Above(*description_, Lines(*description_, 4))},
+                   kUnrelated));
 }
 
 int CDroFeaturesDlg::InitFeatureParser() {

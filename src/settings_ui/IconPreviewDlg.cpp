@@ -5,6 +5,7 @@
 
 #include "descriptor/DescriptorDocument.h"
 #include "framework/MessageBoxes.h"
+#include "framework/layout/Parts.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
@@ -45,6 +46,7 @@ bool IsSquareOf(const std::shared_ptr<const Image>& image, int side) {
 
 CIconPreviewDlg::CIconPreviewDlg()
     : CPropertyPage(u"CIconPreviewDlg", u"Icons", texts::kIconsTitle) {
+  using namespace layout;
   sizes_ = &Add<ListBox>(u"Icon sizes:", texts::kIconsSizes);
   sizes_->onSelectionChange = [this] { ShowSelectedIcon(); };
   sizeLabel_ = &Add<Label>(u"36x36", texts::kIconsFirstSize);
@@ -58,6 +60,11 @@ CIconPreviewDlg::CIconPreviewDlg()
   preview_->width = kPreviewSide;
   preview_->height = kPreviewSide;
   preview_->onPaint = [this] { DrawPreview(); };
+  SetLayout(Row({Above(*sizes_, List(*sizes_, 6, 80)),
+                 Column({*sizeLabel_, Form({Line(*path_, Row({*path_, browse, remove}))}),
+                         Above(*preview_, *preview_)},
+                        kUnrelated)},
+                kUnrelated));
 }
 
 bool CIconPreviewDlg::OnInitDialog() {

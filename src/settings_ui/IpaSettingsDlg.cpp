@@ -20,6 +20,9 @@
 namespace qutav {
 namespace {
 
+// Of a list with short rows, in dialog units.
+constexpr int kChoiceWidth = 90;
+
 enum AspectRatioRow { kPortraitRow, kLandscapeRow, kAutoRow };
 
 // By their rows in the list.
@@ -95,38 +98,66 @@ int FixedRowCount() { return kMovieRows + static_cast<int>(ExtensionRows().size(
 
 CIpaSettingsDlg::CIpaSettingsDlg()
     : CPropertyPage(u"CIpaSettingsDlg", u"General", texts::kMobileTitle) {
+  SetLayout(layout::Form(layout::Joined({AddNames(), AddWindow(), AddProcessors(), AddFiles()})));
+}
+
+layout::FormLines CIpaSettingsDlg::AddNames() {
+  using namespace layout;
   outputFile_ = &Add<Edit>(u"Output file:", texts::kMobileOutputFile);
-  AddImageButton(u"Browse output file", texts::kMobileBrowse, ButtonImage::kBrowse,
-                 &CIpaSettingsDlg::BrowseOutput);
+  auto& browse = AddImageButton(u"Browse output file", texts::kMobileBrowse, ButtonImage::kBrowse,
+                                &CIpaSettingsDlg::BrowseOutput);
   appName_ = &Add<Edit>(u"App name:", texts::kMobileAppName);
-  Add<Label>(u"tav.", texts::kMobileIdPrefix);
+  auto& prefix = Add<Label>(u"tav.", texts::kMobileIdPrefix);
   appId_ = &Add<Edit>(u"App ID:", texts::kMobileAppId);
-  Add<Label>(u"Example: com.yourdomain.appname", texts::kMobileIdExample);
+  auto& example = Add<Label>(u"Example: com.yourdomain.appname", texts::kMobileIdExample);
   version_ = &Add<Edit>(u"Version:", texts::kMobileVersion);
   versionLabel_ = &Add<Edit>(u"Version label:", texts::kMobileVersionLabel);
+  return {Line(*outputFile_, Row({*outputFile_, browse})),
+          Line(*appName_),
+          Line(*appId_, Row({prefix, *appId_})),
+          Indented(example),
+          Line(*version_),
+          Line(*versionLabel_)};
+}
+
+layout::FormLines CIpaSettingsDlg::AddWindow() {
+  using namespace layout;
   aspectRatio_ = &Add<ComboBox>(u"Aspect ratio:", texts::kMobileAspectRatio);
   aspectRatio_->style = ComboStyle::kDropList;
   fullScreen_ = &Add<CheckBox>(u"Full screen", texts::kMobileFullScreen);
   autoOrientation_ = &Add<CheckBox>(u"Auto orientation", texts::kMobileAutoOrientation);
   renderMode_ = &Add<ComboBox>(u"Render mode:", texts::kMobileRenderMode);
   renderMode_->style = ComboStyle::kDropList;
-  Add<Label>(u"Processor:", texts::kMobileProcessor);
-  AddProcessor(u" ARMv7 (32 bit)", texts::kMobileArmV7);
-  AddProcessor(u" Intel x86 (32 bit)", texts::kMobileIntel);
-  AddProcessor(u" ARMv8 (64 bit)", texts::kMobileArmV8);
+  return {Line(*aspectRatio_, Fixed(*aspectRatio_, kChoiceWidth)),
+          Indented(Row({*fullScreen_, *autoOrientation_}, kUnrelated)),
+          Line(*renderMode_, Fixed(*renderMode_, kChoiceWidth))};
+}
+
+layout::FormLines CIpaSettingsDlg::AddProcessors() {
+  using namespace layout;
+  auto& heading = Add<Label>(u"Processor:", texts::kMobileProcessor);
+  return {Line(heading, Column({AddProcessor(u" ARMv7 (32 bit)", texts::kMobileArmV7),
+                                AddProcessor(u" Intel x86 (32 bit)", texts::kMobileIntel),
+                                AddProcessor(u" ARMv8 (64 bit)", texts::kMobileArmV8)}))};
+}
+
+layout::FormLines CIpaSettingsDlg::AddFiles() {
+  using namespace layout;
   includedFiles_ = &Add<ListBox>(u"Included files:", texts::kMobileIncludedFiles);
   includedFiles_->onSelectionChange = [this] { OnIncludedFileSelected(); };
-  AddImageButton(u"Add file", texts::kMobileAddFile, ButtonImage::kAddFile,
-                 &CIpaSettingsDlg::AddFile);
+  auto& addFile = AddImageButton(u"Add file", texts::kMobileAddFile, ButtonImage::kAddFile,
+                                 &CIpaSettingsDlg::AddFile);
   delete_ = &AddImageButton(u"Delete", texts::kMobileDelete, ButtonImage::kDelete,
                             &CIpaSettingsDlg::Delete);
-  AddImageButton(u"Add folder", texts::kMobileAddFolder, ButtonImage::kAddFolder,
-                 &CIpaSettingsDlg::AddFolder);
+  auto& addFolder = AddImageButton(u"Add folder", texts::kMobileAddFolder, ButtonImage::kAddFolder,
+                                   &CIpaSettingsDlg::AddFolder);
+  return {Line(*includedFiles_,
+               Row({List(*includedFiles_, 6, 150), Column({addFile, *delete_, addFolder})}))};
 }
 
 CIpaSettingsDlg::~CIpaSettingsDlg() { CurrentDescriptor.Close(); }
 
-void CIpaSettingsDlg::AddProcessor(const char16_t* label, std::uint32_t captionId) {
+RadioButton& CIpaSettingsDlg::AddProcessor(const char16_t* label, std::uint32_t captionId) {
   auto& button = Add<RadioButton>(label, captionId);
   const auto index = static_cast<std::int32_t>(processors_.Buttons().size());
   button.onClick = [this, index] {
@@ -134,6 +165,7 @@ void CIpaSettingsDlg::AddProcessor(const char16_t* label, std::uint32_t captionI
     changed = true;
   };
   processors_.Add(button);
+  return button;
 }
 
 CStretchBitmapButton& CIpaSettingsDlg::AddImageButton(const char16_t* label,

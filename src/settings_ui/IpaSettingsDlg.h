@@ -7,6 +7,7 @@
 #include "framework/CStretchBitmapButton.h"
 #include "framework/ComboBox.h"
 #include "framework/ListBox.h"
+#include "framework/layout/Parts.h"
 
 namespace qutav {
 
@@ -36,7 +37,11 @@ class CIpaSettingsDlg : public CPropertyPage {
   bool OnInitDialog() override;
 
  private:
-  void AddProcessor(const char16_t* label, std::uint32_t captionId);
+  layout::FormLines AddNames();
+  layout::FormLines AddWindow();
+  layout::FormLines AddProcessors();
+  layout::FormLines AddFiles();
+  RadioButton& AddProcessor(const char16_t* label, std::uint32_t captionId);
   CStretchBitmapButton& AddImageButton(const char16_t* label, std::uint32_t captionId,
                                        ButtonImage image, void (CIpaSettingsDlg::*handler)());
   void FillLists();
@@ -58,17 +63,17 @@ class CIpaSettingsDlg : public CPropertyPage {
 
   HoverButtons hover_;
   RadioGroup processors_;
-  Edit* outputFile_;
-  Edit* appName_;
-  Edit* appId_;
-  Edit* version_;
-  Edit* versionLabel_;
-  ComboBox* aspectRatio_;
-  CheckBox* fullScreen_;
-  CheckBox* autoOrientation_;
-  ComboBox* renderMode_;
-  ListBox* includedFiles_;
-  CStretchBitmapButton* delete_;
+  Edit* outputFile_ = nullptr;
+  Edit* appName_ = nullptr;
+  Edit* appId_ = nullptr;
+  Edit* version_ = nullptr;
+  Edit* versionLabel_ = nullptr;
+  ComboBox* aspectRatio_ = nullptr;
+  CheckBox* fullScreen_ = nullptr;
+  CheckBox* autoOrientation_ = nullptr;
+  ComboBox* renderMode_ = nullptr;
+  ListBox* includedFiles_ = nullptr;
+  CStretchBitmapButton* delete_ = nullptr;
 };
 
 }  // namespace qutav

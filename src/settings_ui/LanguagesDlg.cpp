@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "descriptor/DescriptorDocument.h"
+#include "framework/layout/Parts.h"
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
 #include "win/InterfaceLanguage.h"
@@ -67,10 +68,13 @@ std::vector<std::u16string> SplitAtBlanks(const std::u16string& text) {
 
 CLanguagesDlg::CLanguagesDlg()
     : CPropertyPage(u"CLanguagesDlg", u"Languages", texts::kLanguagesTitle) {
-  Add<Label>(u"Select the languages below that will be supported in your application:",
-             texts::kLanguagesInvitation);
+  using namespace layout;
+  auto& invitation =
+      Add<Label>(u"Select the languages below that will be supported in your application:",
+                 texts::kLanguagesInvitation);
   list_ = &Add<CheckList>(u"Supported Languages", messages::kSupportedLanguages);
   list_->fullRowSelect = true;
+  SetLayout(Column({Wrapped(invitation, 260), List(*list_, 12, 200)}));
 }
 
 bool CLanguagesDlg::OnInitDialog() {

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "descriptor/DescriptorDocument.h"
 #include "framework/MessageBoxes.h"
+#include "framework/layout/Parts.h"
 #include "platform/Services.h"
 #include "settings_ui/DialogTexts.h"
 #include "settings_ui/FileChooser.h"
@@ -54,32 +56,45 @@ CVolDeployDlg::CVolDeployDlg()
                u" (*.mobileprovision)|*.mobileprovision||",
                messages::kProvisioningProfileMissing,
                messages::kProvisioningFileMissing} {
-  AddSigningFields();
-  AddDeploymentTypes();
+  SetLayout(layout::Column({AddSigningFields(), AddDeploymentTypes()}, layout::kUnrelated));
 }
 
-void CVolDeployDlg::AddSigningFields() {
-  Add<GroupBox>(u"iPhone digital signature", texts::kIosSignatureGroup);
-  Add<Label>(u"Use an iPhone certificate (.p12)", texts::kIosCertificateHint);
-  Add<Button>(u"More Info", texts::kIosMoreInfo).onClick = [] { OpenHelpLink(kIosHelp); };
+Layout CVolDeployDlg::AddSigningFields() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"iPhone digital signature", texts::kIosSignatureGroup);
+  auto& hint = Add<Label>(u"Use an iPhone certificate (.p12)", texts::kIosCertificateHint);
+  auto& moreInfo = Add<Button>(u"More Info", texts::kIosMoreInfo);
+  moreInfo.onClick = [] { OpenHelpLink(kIosHelp); };
   certificate_.combo = &Add<ComboBox>(u"Certificate:", texts::kIosCertificate);
-  Add<Button>(u"Browse...", texts::kIosBrowse).onClick = [this] { BrowseCertificate(); };
+  auto& browseCertificate = Add<Button>(u"Browse...", texts::kIosBrowse);
+  browseCertificate.onClick = [this] { BrowseCertificate(); };
   password_ = &Add<Edit>(u"Password:", texts::kIosPassword);
   password_->style = EditStyle::kPassword;
   remember_ = &Add<CheckBox>(u"Remember password for this session", texts::kIosRemember);
   profile_.combo = &Add<ComboBox>(u"Provisioning profile:", texts::kIosProfile);
   profile_.combo->onSelectionEnd = [this] { ApplyProvisioningProfile(); };
-  Add<Button>(u"Browse...", texts::kIosBrowse).onClick = [this] { BrowseProfile(); };
+  auto& browseProfile = Add<Button>(u"Browse...", texts::kIosBrowse);
+  browseProfile.onClick = [this] { BrowseProfile(); };
   applicationId_ = &Add<Edit>(u"App ID:", texts::kIosApplicationId);
+  return Group(
+      group, Column({Row({hint, Space(), moreInfo}),
+                     Form({Line(*certificate_.combo, Row({*certificate_.combo, browseCertificate})),
+                           Line(*password_), Indented(*remember_),
+                           Line(*profile_.combo, Row({*profile_.combo, browseProfile})),
+                           Line(*applicationId_)})}));
 }
 
-void CVolDeployDlg::AddDeploymentTypes() {
-  Add<GroupBox>(u"iPhone deployment type", texts::kIosDeployTypeGroup);
+Layout CVolDeployDlg::AddDeploymentTypes() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"iPhone deployment type", texts::kIosDeployTypeGroup);
+  Parts radios;
   for (std::int32_t type = 0; type < std::ssize(kDeployTypes); ++type) {
     auto& radio = Add<RadioButton>(kDeployTypes[type].label, kDeployTypes[type].captionId);
     radio.onClick = [this, type] { ChooseDeployType(type); };
     deployTypes_.Add(radio);
+    radios.emplace_back(radio);
   }
+  return Group(group, Column(std::move(radios)));
 }
 
 // Runs again after a failed validation, over what was typed since.

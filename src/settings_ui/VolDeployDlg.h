@@ -41,8 +41,8 @@ class CVolDeployDlg : public CPropertyPage {
     ComboBox* combo = nullptr;
   };
 
-  void AddSigningFields();
-  void AddDeploymentTypes();
+  Layout AddSigningFields();
+  Layout AddDeploymentTypes();
   void LoadDeployType();
   void LoadPassword();
   static void LoadFile(const FileField& field);
