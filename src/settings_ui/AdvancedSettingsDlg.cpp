@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "descriptor/DescriptorDocument.h"
+#include "framework/layout/Parts.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
@@ -19,6 +20,8 @@ namespace {
 bool RunFileTypeDialog(FileTypeRecord& type) {
   return CFileTypeDlg(TheServices().frontEnd->FocusWindow(), type).DoModal() == kIdOk;
 }
+
+layout::FormLine NumberLine(const Edit& edit) { return layout::Line(edit, layout::Number(edit)); }
 
 // --- Rows of the list ---------------------------------------------------------------------------
 
@@ -79,24 +82,27 @@ bool Says(const char* tag, std::u16string_view value) {
 
 CAdvancedSettingsDlg::CAdvancedSettingsDlg()
     : CPropertyPage(u"CAdvancedSettingsDlg", u"Advanced", texts::kAdvancedTitle) {
-  AddFileTypeControls();
-  AddWindowControls();
-  AddOtherControls();
+  SetLayout(layout::Column({AddFileTypeControls(), AddWindowControls(), AddOtherControls()},
+                           layout::kUnrelated));
 }
 
-void CAdvancedSettingsDlg::AddFileTypeControls() {
-  Add<GroupBox>(u"Associated file types", texts::kAdvancedFileTypesGroup);
+Layout CAdvancedSettingsDlg::AddFileTypeControls() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"Associated file types", texts::kAdvancedFileTypesGroup);
   types_ = &Add<ListBox>(u"File types:", texts::kAdvancedFileTypes);
-  AddImageButton(u"Add file type", texts::kAdvancedAdd, ButtonImage::kAdd,
-                 &CAdvancedSettingsDlg::AddFileType);
+  auto& add = AddImageButton(u"Add file type", texts::kAdvancedAdd, ButtonImage::kAdd,
+                             &CAdvancedSettingsDlg::AddFileType);
   delete_ = &AddImageButton(u"Delete file type", texts::kAdvancedDelete, ButtonImage::kDelete,
                             &CAdvancedSettingsDlg::DeleteFileType);
   edit_ = &AddImageButton(u"Edit file type", texts::kAdvancedEdit, ButtonImage::kEdit,
                           &CAdvancedSettingsDlg::EditFileType);
+  return Group(
+      group, Form({Line(*types_, Row({List(*types_, 5, 120), Column({add, *delete_, *edit_})}))}));
 }
 
-void CAdvancedSettingsDlg::AddWindowControls() {
-  Add<GroupBox>(u"Initial window settings", texts::kAdvancedWindowGroup);
+Layout CAdvancedSettingsDlg::AddWindowControls() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"Initial window settings", texts::kAdvancedWindowGroup);
   width_ = &AddNumber(u"Width:", texts::kAdvancedWidth);
   height_ = &AddNumber(u"Height:", texts::kAdvancedHeight);
   x_ = &AddNumber(u"X:", texts::kAdvancedX);
@@ -110,13 +116,24 @@ void CAdvancedSettingsDlg::AddWindowControls() {
   resizable_ = &AddSwitch(u"Resizable", texts::kAdvancedResizable);
   resizable_->onClick = [this] { EnableSizeLimits(resizable_->checked); };
   visible_ = &AddSwitch(u"Visible", texts::kAdvancedVisible);
+  return Group(
+      group,
+      Column({Columns({Form({NumberLine(*width_), NumberLine(*x_), NumberLine(*maximumWidth_),
+                             NumberLine(*minimumWidth_)}),
+                       Form({NumberLine(*height_), NumberLine(*y_), NumberLine(*maximumHeight_),
+                             NumberLine(*minimumHeight_)})}),
+              Columns({Column({*maximizable_, *resizable_}), Column({*minimizable_, *visible_})})},
+             kUnrelated));
 }
 
-void CAdvancedSettingsDlg::AddOtherControls() {
-  Add<GroupBox>(u"Other settings", texts::kAdvancedOtherGroup);
+Layout CAdvancedSettingsDlg::AddOtherControls() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"Other settings", texts::kAdvancedOtherGroup);
   installFolder_ = &Add<Edit>(u"Install folder:", texts::kAdvancedInstallFolder);
   programMenuFolder_ = &Add<Edit>(u"Program menu folder:", texts::kAdvancedProgramMenuFolder);
   customUpdate_ = &Add<CheckBox>(u"Use custom UI for updates", texts::kAdvancedCustomUpdate);
+  return Group(group,
+               Column({Form({Line(*installFolder_), Line(*programMenuFolder_)}), *customUpdate_}));
 }
 
 Edit& CAdvancedSettingsDlg::AddNumber(const char16_t* label, std::uint32_t captionId) {

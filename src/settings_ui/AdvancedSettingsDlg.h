@@ -26,9 +26,9 @@ class CAdvancedSettingsDlg : public CPropertyPage {
   bool OnInitDialog() override;
 
  private:
-  void AddFileTypeControls();
-  void AddWindowControls();
-  void AddOtherControls();
+  Layout AddFileTypeControls();
+  Layout AddWindowControls();
+  Layout AddOtherControls();
   Edit& AddNumber(const char16_t* label, std::uint32_t captionId);
   CheckBox& AddSwitch(const char16_t* label, std::uint32_t captionId);
   CStretchBitmapButton& AddImageButton(const char16_t* label, std::uint32_t captionId,

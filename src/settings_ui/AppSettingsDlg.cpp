@@ -107,33 +107,64 @@ bool Holds(const std::vector<std::u16string>& rows, const std::u16string& row) {
 
 CAppSettingsDlg::CAppSettingsDlg()
     : CPropertyPage(u"CAppSettingsDlg", u"General", texts::kDesktopTitle) {
+  SetLayout(
+      layout::Form(layout::Joined({AddNames(), AddDescription(), AddProfiles(), AddFiles()})));
+}
+
+layout::FormLines CAppSettingsDlg::AddNames() {
+  using namespace layout;
   outputFile_ = &Add<Edit>(u"Output file:", texts::kDesktopOutputFile);
-  AddImageButton(u"Browse output file", texts::kDesktopBrowse, ButtonImage::kBrowse,
-                 &CAppSettingsDlg::BrowseOutput);
+  auto& browse = AddImageButton(u"Browse output file", texts::kDesktopBrowse, ButtonImage::kBrowse,
+                                &CAppSettingsDlg::BrowseOutput);
   installer_ = &Add<CheckBox>(u"Windows installer (.exe)", texts::kDesktopInstaller);
   fileName_ = &Add<Edit>(u"File name:", texts::kDesktopFileName);
   appName_ = &Add<Edit>(u"App name:", texts::kDesktopAppName);
   version_ = &Add<Edit>(u"Version:", texts::kDesktopVersion);
   appId_ = &Add<Edit>(u"App ID:", texts::kDesktopAppId);
-  Add<Label>(u"Example: com.yourdomain.appname", texts::kDesktopIdExample);
+  auto& example = Add<Label>(u"Example: com.yourdomain.appname", texts::kDesktopIdExample);
+  return {Line(*outputFile_, Row({*outputFile_, browse})),
+          Indented(*installer_),
+          Line(*fileName_),
+          Line(*appName_),
+          Line(*version_),
+          Line(*appId_),
+          Indented(example)};
+}
+
+layout::FormLines CAppSettingsDlg::AddDescription() {
+  using namespace layout;
   description_ = &Add<Edit>(u"Description:", texts::kDesktopDescription);
   description_->style = EditStyle::kMultiLine;
   copyright_ = &Add<Edit>(u"Copyright:", texts::kDesktopCopyright);
   windowStyle_ = &Add<ComboBox>(u"Window style:", texts::kDesktopWindowStyle);
   windowStyle_->style = ComboStyle::kDropList;
-  Add<Label>(u"Profiles:", texts::kDesktopProfiles);
+  return {Line(*description_, Lines(*description_, 3)), Line(*copyright_), Line(*windowStyle_)};
+}
+
+layout::FormLines CAppSettingsDlg::AddProfiles() {
+  using namespace layout;
+  auto& heading = Add<Label>(u"Profiles:", texts::kDesktopProfiles);
   profiles_ = {&Add<CheckBox>(u"Desktop", texts::kDesktopProfileDesktop),
                &Add<CheckBox>(u"Mobile Device", texts::kDesktopProfileMobile),
                &Add<CheckBox>(u"Extended Desktop", texts::kDesktopProfileExtended),
                &Add<CheckBox>(u"Extended Mobile Device", texts::kDesktopProfileExtendedMobile)};
+  return {Line(heading,
+               Row({Column({*profiles_[0], *profiles_[2]}), Column({*profiles_[1], *profiles_[3]})},
+                   kUnrelated))};
+}
+
+layout::FormLines CAppSettingsDlg::AddFiles() {
+  using namespace layout;
   includedFiles_ = &Add<ListBox>(u"Included files", texts::kDesktopIncludedFiles);
   includedFiles_->onSelectionChange = [this] { OnIncludedFileSelected(); };
-  AddImageButton(u"Add file", texts::kDesktopAddFile, ButtonImage::kAddFile,
-                 &CAppSettingsDlg::AddFile);
+  auto& addFile = AddImageButton(u"Add file", texts::kDesktopAddFile, ButtonImage::kAddFile,
+                                 &CAppSettingsDlg::AddFile);
   delete_ = &AddImageButton(u"Delete", texts::kDesktopDelete, ButtonImage::kDelete,
                             &CAppSettingsDlg::Delete);
-  AddImageButton(u"Add folder", texts::kDesktopAddFolder, ButtonImage::kAddFolder,
-                 &CAppSettingsDlg::AddFolder);
+  auto& addFolder = AddImageButton(u"Add folder", texts::kDesktopAddFolder, ButtonImage::kAddFolder,
+                                   &CAppSettingsDlg::AddFolder);
+  return {Line(*includedFiles_,
+               Row({List(*includedFiles_, 5, 150), Column({addFile, *delete_, addFolder})}))};
 }
 
 CAppSettingsDlg::~CAppSettingsDlg() { CurrentDescriptor.Close(); }

@@ -8,6 +8,7 @@
 #include "framework/CStretchBitmapButton.h"
 #include "framework/ComboBox.h"
 #include "framework/ListBox.h"
+#include "framework/layout/Parts.h"
 
 namespace qutav {
 
@@ -38,6 +39,10 @@ class CAppSettingsDlg : public CPropertyPage {
  private:
   CStretchBitmapButton& AddImageButton(const char16_t* label, std::uint32_t captionId,
                                        ButtonImage image, void (CAppSettingsDlg::*handler)());
+  layout::FormLines AddNames();
+  layout::FormLines AddDescription();
+  layout::FormLines AddProfiles();
+  layout::FormLines AddFiles();
   void FillLists();
 
   void LoadNames();
@@ -59,18 +64,18 @@ class CAppSettingsDlg : public CPropertyPage {
   void OnIncludedFileSelected();
 
   HoverButtons hover_;
-  Edit* outputFile_;
-  CheckBox* installer_;
-  Edit* fileName_;
-  Edit* appName_;
-  Edit* version_;
-  Edit* appId_;
-  Edit* description_;
-  Edit* copyright_;
-  ComboBox* windowStyle_;
-  std::array<CheckBox*, 4> profiles_;
-  ListBox* includedFiles_;
-  CStretchBitmapButton* delete_;
+  Edit* outputFile_ = nullptr;
+  CheckBox* installer_ = nullptr;
+  Edit* fileName_ = nullptr;
+  Edit* appName_ = nullptr;
+  Edit* version_ = nullptr;
+  Edit* appId_ = nullptr;
+  Edit* description_ = nullptr;
+  Edit* copyright_ = nullptr;
+  ComboBox* windowStyle_ = nullptr;
+  std::array<CheckBox*, 4> profiles_{};
+  ListBox* includedFiles_ = nullptr;
+  CStretchBitmapButton* delete_ = nullptr;
 };
 
 }  // namespace qutav

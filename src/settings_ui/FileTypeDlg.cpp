@@ -1,9 +1,11 @@
 #include "settings_ui/FileTypeDlg.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "framework/Fonts.h"
 #include "framework/MessageBoxes.h"
+#include "framework/layout/Parts.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "settings_ui/DialogTexts.h"
@@ -47,34 +49,42 @@ constexpr std::array<CFileTypeDlg::Kind, 4> CFileTypeDlg::kKinds = {{
 CFileTypeDlg::CFileTypeDlg(WindowHandle parent, FileTypeRecord& record)
     : CDialog(u"CFileTypeDlg", texts::kFileTypeTitle, parent), record_(record) {
   for (std::size_t i = 0; i < icons_.size(); ++i) icons_[i].kind = &kKinds[i];
-  AddFields();
-  AddPreviews();
-  AddIconRows();
-  Add<Button>(u"Help", texts::kFileTypeHelp).onClick = [] { OpenHelpLink(kAndroidHelp); };
-  auto& ok = Add<Button>(u"OK", texts::kFileTypeOk);
-  ok.isDefault = true;
-  ok.onClick = [this] { OnOK(); };
-  Add<Button>(u"Cancel", texts::kFileTypeCancel).onClick = [this] { OnCancel(); };
+  SetLayout(layout::Column({AddFields(), AddIcons(), AddButtons()}, layout::kUnrelated));
 }
 
-void CFileTypeDlg::AddFields() {
-  Add<GroupBox>(u"File type settings", texts::kFileTypeSettingsGroup);
+Layout CFileTypeDlg::AddFields() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"File type settings", texts::kFileTypeSettingsGroup);
   name_ = &Add<Edit>(u"Name:", texts::kFileTypeName);
   extension_ = &Add<Edit>(u"Extension:", texts::kFileTypeExtension);
   description_ = &Add<Edit>(u"Description:", texts::kFileTypeDescription);
   contentType_ = &Add<Edit>(u"Content type:", texts::kFileTypeContentType);
+  return Group(group,
+               Form({Line(*name_), Line(*extension_), Line(*description_), Line(*contentType_)}));
 }
 
-void CFileTypeDlg::AddPreviews() {
-  Add<GroupBox>(u"File type icon settings", texts::kFileTypeIconsGroup);
+Layout CFileTypeDlg::AddIcons() {
+  using namespace layout;
+  auto& group = Add<GroupBox>(u"File type icon settings", texts::kFileTypeIconsGroup);
+  return Group(group, Column({AddPreviews(), AddIconRows()}, kUnrelated));
+}
+
+Layout CFileTypeDlg::AddPreviews() {
+  std::vector<const Picture*> previews;
   for (std::size_t i = 0; i < icons_.size(); ++i) {
     Icon& icon = icons_[i];
     icon.preview = &Add<Picture>(icon.kind->size, TextId(texts::kFileTypeFirstPreview, i));
+    icon.preview->width = icon.kind->previewWidth;
+    icon.preview->height = icon.kind->previewHeight;
     icon.preview->onPaint = [&icon] { PaintPreview(icon); };
+    previews.push_back(icon.preview);
   }
+  return layout::Gallery(std::move(previews));
 }
 
-void CFileTypeDlg::AddIconRows() {
+Layout CFileTypeDlg::AddIconRows() {
+  using namespace layout;
+  FormLines lines;
   for (std::size_t i = 0; i < icons_.size(); ++i) {
     Icon& icon = icons_[i];
     const std::u16string size = icon.kind->size;
@@ -85,15 +95,24 @@ void CFileTypeDlg::AddIconRows() {
     auto& remove = Add<CStretchBitmapButton>(u"Remove " + size + u" icon",
                                              TextId(texts::kFileTypeFirstRemove, i));
     PrepareImageButton(remove, ButtonImage::kDelete, hover_, [&icon] { RemoveIcon(icon); });
+    lines.push_back(Line(*icon.path, Row({*icon.path, browse, remove})));
   }
+  return Form(std::move(lines));
+}
+
+Layout CFileTypeDlg::AddButtons() {
+  auto& help = Add<Button>(u"Help", texts::kFileTypeHelp);
+  help.onClick = [] { OpenHelpLink(kAndroidHelp); };
+  auto& ok = Add<Button>(u"OK", texts::kFileTypeOk);
+  ok.isDefault = true;
+  ok.onClick = [this] { OnOK(); };
+  auto& cancel = Add<Button>(u"Cancel", texts::kFileTypeCancel);
+  cancel.onClick = [this] { OnCancel(); };
+  return layout::Buttons({help, ok, cancel});
 }
 
 bool CFileTypeDlg::OnInitDialog() {
   CDialog::OnInitDialog();
-  for (const Icon& icon : icons_) {
-    icon.preview->width = icon.kind->previewWidth;
-    icon.preview->height = icon.kind->previewHeight;
-  }
   rootFolder_ = MovieFolder();
   if (IsOlderWindows()) {
     description_->fontFace = kEastAsianFace;

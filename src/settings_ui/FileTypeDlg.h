@@ -34,9 +34,11 @@ class CFileTypeDlg : public CDialog {
   };
   static const std::array<Kind, 4> kKinds;
 
-  void AddFields();
-  void AddPreviews();
-  void AddIconRows();
+  Layout AddFields();
+  Layout AddIcons();
+  Layout AddPreviews();
+  Layout AddIconRows();
+  Layout AddButtons();
 
   void FillFromRecord();
   void FillIcon(Icon& icon);
