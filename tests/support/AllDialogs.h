@@ -23,24 +23,30 @@
 
 namespace qutav::test {
 
-/// One of each dialog, page and sheet: everything that has labels of its own.
-inline std::vector<std::unique_ptr<CDialog>> AllDialogs() {
+/// One of each dialog and page: everything that is laid out from a description.
+inline std::vector<std::unique_ptr<CDialog>> DialogsAndPages() {
+  static FileTypeRecord fileType;
   std::vector<std::unique_ptr<CDialog>> dialogs;
   dialogs.push_back(std::make_unique<CProgressDlg>(nullptr));
   dialogs.push_back(std::make_unique<CTimestampRetryDlg>(nullptr));
   dialogs.push_back(std::make_unique<CSignaturePasswordDlg>(nullptr));
-  dialogs.push_back(std::make_unique<CDroFeaturesDlg>());
-  dialogs.push_back(std::make_unique<CLanguagesDlg>());
-  dialogs.push_back(std::make_unique<CSettingsPropSheet>(messages::kAndroidSettingsTitle));
-  dialogs.push_back(std::make_unique<CDigitalSigDlg>());
   dialogs.push_back(std::make_unique<CSelfSignDlg>(nullptr));
+  dialogs.push_back(std::make_unique<CFileTypeDlg>(nullptr, fileType));
   dialogs.push_back(std::make_unique<CIpaSettingsDlg>());
-  dialogs.push_back(std::make_unique<CAppSettingsDlg>());
+  dialogs.push_back(std::make_unique<CDigitalSigDlg>());
   dialogs.push_back(std::make_unique<CVolDeployDlg>());
   dialogs.push_back(std::make_unique<CIconPreviewDlg>());
+  dialogs.push_back(std::make_unique<CDroFeaturesDlg>());
+  dialogs.push_back(std::make_unique<CLanguagesDlg>());
+  dialogs.push_back(std::make_unique<CAppSettingsDlg>());
   dialogs.push_back(std::make_unique<CAdvancedSettingsDlg>());
-  static FileTypeRecord fileType;
-  dialogs.push_back(std::make_unique<CFileTypeDlg>(nullptr, fileType));
+  return dialogs;
+}
+
+/// The same, and the sheet: everything that has labels of its own.
+inline std::vector<std::unique_ptr<CDialog>> AllDialogs() {
+  auto dialogs = DialogsAndPages();
+  dialogs.push_back(std::make_unique<CSettingsPropSheet>(messages::kAndroidSettingsTitle));
   return dialogs;
 }
 
