@@ -42,7 +42,8 @@ class CheckList final : public Control {
   /// The first row of exactly this text, -1 without one.
   int FindRow(const std::u16string& row) const;
 
-  /// As a user does: a click on the row's check box, and one on its text.
+  /// As a user does: a click anywhere, one on a row's check box, and one on its text.
+  void Click() const { Notify(); }
   void ToggleByUser(int index);
   void ChooseByUser(int index);
 

@@ -1,6 +1,7 @@
 // The controls of a dialog, as its front end shows them and its handlers know them.
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -20,12 +21,17 @@ struct Control {
   Control& operator=(const Control&) = delete;
   virtual void Accept(ControlVisitor& visitor) = 0;
 
+  /// Tells it from one that was at the same address before.
+  const unsigned serial = nextSerial++;
   std::u16string label;         ///< in English; scripts and tests address the control by it
   std::uint32_t captionId = 0;  ///< the catalogue's id of the caption, 0 for none
   std::u16string caption;       ///< shown beside a field, and its name for screen readers
   std::u16string text;          ///< what a user typed or chose, or the shown text
   bool enabled = true;
   bool visible = true;
+
+ private:
+  inline static std::atomic<unsigned> nextSerial = 1;
 };
 
 /// Text that nobody can change.
@@ -38,7 +44,11 @@ struct GroupBox final : Control {
   void Accept(ControlVisitor& visitor) override;
 };
 
-enum class EditStyle { kPlain, kPassword, kMultiLine, kDigits, kReadOnly };
+enum class EditStyle { kPlain, kPassword, kMultiLine, kDigits, kReadOnly, kReadOnlyLines };
+
+inline bool IsReadOnly(EditStyle style) {
+  return style == EditStyle::kReadOnly || style == EditStyle::kReadOnlyLines;
+}
 
 struct Edit final : Control {
   void Accept(ControlVisitor& visitor) override;

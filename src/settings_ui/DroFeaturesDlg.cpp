@@ -38,7 +38,7 @@ CDroFeaturesDlg::CDroFeaturesDlg()
   list_ = &Add<CheckList>(u"Permission Name", messages::kPermissionName);
   list_->fullRowSelect = true;
   description_ = &Add<Edit>(u"Description:", texts::kPermissionsDescription);
-  description_->style = EditStyle::kReadOnly;
+  description_->style = EditStyle::kReadOnlyLines;
   manual_->onClick = [this] { OnManualClicked(); };
   list_->onChange = [this] { OnListChanged(); };
   SetLayout(Column({Wrapped(*manual_, kTextWidth),

@@ -20,8 +20,9 @@ class ScriptedTest : public ServicesTest {
 
   /// Puts a script of these answers in force.
   void Answers(const std::string& answers) {
-    scripted = std::make_unique<ScriptedFrontEnd>(
+    director = std::make_unique<ScriptDirector>(
         AnswerScript::Parse(nlohmann::json::parse("{\"answers\": [" + answers + "]}")), transcript);
+    scripted = std::make_unique<ScriptedFrontEnd>(*director);
     TheServices().frontEnd = scripted.get();
   }
   /// All events of the transcript, or those of a kind.
@@ -44,6 +45,7 @@ class ScriptedTest : public ServicesTest {
   TemporaryFolder folder;
   std::ostringstream errors;  ///< the standard error output
   Transcript transcript{folder.Native("transcript").string()};
+  std::unique_ptr<ScriptDirector> director;
   std::unique_ptr<ScriptedFrontEnd> scripted;
 
  private:

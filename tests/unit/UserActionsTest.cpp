@@ -11,11 +11,12 @@ using ::testing::IsEmpty;
 class UserActionsTest : public ServicesTest {
  protected:
   bool Set(const std::u16string& label, const std::u16string& value) {
-    return SetByUser(dialog, label, value);
+    return SetByUser(hands, dialog, label, value);
   }
   bool Select(const std::u16string& label, const std::u16string& row) {
-    return SelectByUser(dialog, label, row);
+    return SelectByUser(hands, dialog, label, row);
   }
+  ModelHands hands;
   ControlsDialog dialog;
 };
 

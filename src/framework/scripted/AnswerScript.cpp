@@ -18,9 +18,10 @@ using nlohmann::json;
 
 using Members = std::vector<std::string_view>;
 
-const Members kStepMembers = {"page", "select", "set", "press", "show"};
-const Members kAnswerMembers = {"to",    "contains", "class", "title",  "select", "set",   "page",
-                                "press", "show",     "steps", "choose", "after",  "repeat"};
+const Members kStepMembers = {"page", "select", "set", "press", "show", "picture"};
+const Members kAnswerMembers = {"to",    "contains", "class", "title", "select",
+                                "set",   "page",     "press", "show",  "picture",
+                                "steps", "choose",   "after", "repeat"};
 constexpr std::array<std::string_view, 5> kKinds = {"message", "dialog", "sheet", "file", "folder"};
 
 std::string ReadSecretFile(const std::string& path) {
@@ -94,6 +95,7 @@ ScriptStep ReadStep(const json& source) {
   step.set = ReadValues(source, "set");
   step.press = ReadPress(source);
   step.show = ReadOptional<bool>(source, "show").value_or(false);
+  step.picture = ReadOptional<std::string>(source, "picture").value_or("");
   return step;
 }
 

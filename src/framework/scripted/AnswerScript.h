@@ -19,7 +19,8 @@ struct ScriptStep {
   ScriptValues select;  ///< rows to choose, by list
   ScriptValues set;     ///< "true" and "false" for switches
   std::vector<std::string> press;
-  bool show = false;  ///< whether to write the controls to the transcript in the end
+  bool show = false;    ///< whether to write the controls to the transcript in the end
+  std::string picture;  ///< the file for a picture of the dialog's window; empty: none
 };
 
 struct ScriptAnswer {

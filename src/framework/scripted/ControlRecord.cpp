@@ -22,6 +22,7 @@ const char* EditKind(EditStyle style) {
     case EditStyle::kDigits:
       return "number edit";
     case EditStyle::kReadOnly:
+    case EditStyle::kReadOnlyLines:
       return "read-only edit";
     case EditStyle::kPlain:
       break;

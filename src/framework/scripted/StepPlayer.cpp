@@ -22,6 +22,7 @@ void StepPlayer::PlayStep(const ScriptStep& step) {
   }
   for (const std::string& button : step.press) Press(button);
   if (step.show && !dialog_.HasEnded()) Show();
+  if (!step.picture.empty() && !dialog_.HasEnded()) TakePicture(step.picture);
 }
 
 CDialog& StepPlayer::Front() const {
@@ -33,21 +34,18 @@ void StepPlayer::TurnTo(const std::string& page) {
   const int count = sheet_ == nullptr ? 0 : static_cast<int>(sheet_->Pages().size());
   for (int i = 0; i < count; ++i) {
     if (sheet_->Pages()[static_cast<std::size_t>(i)]->EnglishTitle() != FromUtf8(page)) continue;
-    CDialog::Dispatch([&] { sheet_->SetActivePage(i); });
-    return;
+    return hands_.TurnTo(*sheet_, i);
   }
   Cancel("no page \"" + page + "\"");
 }
 
 void StepPlayer::Select(const std::string& list, const std::string& row) {
-  bool done = true;
-  CDialog::Dispatch([&] { done = SelectByUser(Front(), FromUtf8(list), FromUtf8(row)); });
+  const bool done = SelectByUser(hands_, Front(), FromUtf8(list), FromUtf8(row));
   if (!done) Cancel("no row \"" + row + "\" to choose in \"" + list + "\"");
 }
 
 void StepPlayer::Set(const std::string& label, const std::string& value) {
-  bool done = true;
-  CDialog::Dispatch([&] { done = SetByUser(Front(), FromUtf8(label), FromUtf8(value)); });
+  const bool done = SetByUser(hands_, Front(), FromUtf8(label), FromUtf8(value));
   if (!done) Cancel("no control \"" + label + "\" that takes this value");
 }
 
@@ -60,7 +58,7 @@ void StepPlayer::Press(const std::string& label) {
     transcript_.Write(
         {{"event", "pressed"}, {"title", ToUtf8(sheet_->Title())}, {"button", label}});
   }
-  CDialog::Dispatch([&] { button->Click(); });
+  hands_.Click(*button);
   pressed_ = label;  // behind the click, which may have shown another dialog
 }
 
@@ -68,6 +66,10 @@ void StepPlayer::Cancel(const std::string& mistake) {
   transcript_.Write(
       {{"event", "script-error"}, {"text", ToUtf8(dialog_.ClassName()) + ": " + mistake}});
   CDialog::Dispatch([&] { dialog_.OnCancel(); });
+}
+
+void StepPlayer::TakePicture(const std::string& path) {
+  if (!hands_.TakePicture(dialog_, path)) Cancel("no picture can be written to " + path);
 }
 
 void StepPlayer::Show() {

@@ -6,6 +6,7 @@
 
 #include "framework/CPropertySheet.h"
 #include "framework/scripted/AnswerScript.h"
+#include "framework/scripted/Hands.h"
 #include "framework/scripted/Transcript.h"
 
 namespace qutav {
@@ -13,10 +14,12 @@ namespace qutav {
 class StepPlayer {
  public:
   /// `pressed` is given the label of each button after its click.
-  StepPlayer(CDialog& dialog, Transcript& transcript, std::string& pressed)
-      : dialog_(dialog), transcript_(transcript), pressed_(pressed) {}
-  StepPlayer(CPropertySheet& sheet, Transcript& transcript, std::string& pressed)
-      : dialog_(sheet), sheet_(&sheet), transcript_(transcript), pressed_(pressed) {}
+  StepPlayer(CDialog& dialog, Hands& hands, Transcript& transcript, std::string& pressed)
+      : dialog_(dialog),
+        sheet_(dynamic_cast<CPropertySheet*>(&dialog)),
+        hands_(hands),
+        transcript_(transcript),
+        pressed_(pressed) {}
 
   /// Until the dialog ends. A step that cannot be carried out is a mistake of the script: it is
   /// told, and the dialog is cancelled.
@@ -30,12 +33,14 @@ class StepPlayer {
   void Select(const std::string& list, const std::string& row);
   void Set(const std::string& label, const std::string& value);
   void Cancel(const std::string& mistake);
+  void TakePicture(const std::string& path);
   void Show();
   /// The dialog, or the sheet's active page.
   CDialog& Front() const;
 
   CDialog& dialog_;
-  CPropertySheet* sheet_ = nullptr;
+  CPropertySheet* sheet_;
+  Hands& hands_;
   Transcript& transcript_;
   std::string& pressed_;
 };

@@ -30,6 +30,7 @@ bool IsUsable(const Control& control) { return control.enabled && control.visibl
 // By what a user can do to it; nothing, unless a kind says otherwise.
 class Action : public ControlVisitor {
  public:
+  explicit Action(Hands& hands) : hands_(hands) {}
   bool Do(Control& control) {
     if (IsUsable(control)) control.Accept(*this);
     return done_;
@@ -48,36 +49,37 @@ class Action : public ControlVisitor {
   void Visit(Picture&) override {}
 
  protected:
+  Hands& hands_;
   bool done_ = false;
 };
 
 class SetAction final : public Action {
  public:
-  explicit SetAction(const std::u16string& value) : value_(value) {}
+  SetAction(Hands& hands, const std::u16string& value) : Action(hands), value_(value) {}
 
   void Visit(Edit& edit) override {
-    if (edit.style == EditStyle::kReadOnly) return;
+    if (IsReadOnly(edit.style)) return;
     if (edit.style == EditStyle::kDigits && !IsNumber()) return;
-    edit.Type(value_);
+    hands_.Type(edit, value_);
     done_ = true;
   }
   void Visit(ComboBox& combo) override {
     if (combo.style == ComboStyle::kDropDown) {
-      combo.Type(value_);
+      hands_.Type(combo, value_);
       done_ = true;
       return;
     }
     const int row = combo.FindStringExact(value_);
-    if (row >= 0) combo.Choose(row);
+    if (row >= 0) hands_.Choose(combo, row);
     done_ = row >= 0;
   }
   void Visit(CheckBox& box) override {
     done_ = IsSwitch();
-    if (done_ && box.checked != IsOn()) box.Click();
+    if (done_ && box.checked != IsOn()) hands_.Click(box);
   }
   void Visit(RadioButton& button) override {
     done_ = IsOn();
-    if (done_) button.Click();
+    if (done_) hands_.Click(button);
   }
 
  private:
@@ -93,21 +95,21 @@ class SetAction final : public Action {
 
 class SelectAction final : public Action {
  public:
-  explicit SelectAction(const std::u16string& row) : row_(row) {}
+  SelectAction(Hands& hands, const std::u16string& row) : Action(hands), row_(row) {}
 
   void Visit(ComboBox& combo) override {
     const int row = combo.FindStringExact(row_);
-    if (row >= 0) combo.Choose(row);
+    if (row >= 0) hands_.Choose(combo, row);
     done_ = row >= 0;
   }
   void Visit(ListBox& list) override {
     const int row = list.FindStringExact(row_);
-    if (row >= 0) list.Choose(row);
+    if (row >= 0) hands_.Choose(list, row);
     done_ = row >= 0;
   }
   void Visit(CheckList& list) override {
     const int row = list.FindRow(row_);
-    if (row >= 0) list.ChooseByUser(row);
+    if (row >= 0) hands_.Choose(list, row);
     done_ = row >= 0;
   }
 
@@ -115,13 +117,14 @@ class SelectAction final : public Action {
   const std::u16string& row_;
 };
 
-bool SwitchRow(const CDialog& dialog, const std::u16string& text, const std::u16string& value) {
+bool SwitchRow(Hands& hands, const CDialog& dialog, const std::u16string& text,
+               const std::u16string& value) {
   if (value != u"true" && value != u"false") return false;
   for (const auto& control : dialog.Controls()) {
     auto* list = dynamic_cast<CheckList*>(control.get());
     const int row = list == nullptr || !IsUsable(*list) ? -1 : list->FindRow(text);
     if (row < 0) continue;
-    if (list->IsChecked(row) != (value == u"true")) list->ToggleByUser(row);
+    if (list->IsChecked(row) != (value == u"true")) hands.Toggle(*list, row);
     return true;
   }
   return false;
@@ -137,14 +140,17 @@ Control* FindControl(const CDialog& dialog, const std::u16string& label) {
   return nullptr;
 }
 
-bool SetByUser(const CDialog& dialog, const std::u16string& label, const std::u16string& value) {
+bool SetByUser(Hands& hands, const CDialog& dialog, const std::u16string& label,
+               const std::u16string& value) {
   Control* control = FindControl(dialog, label);
-  return control == nullptr ? SwitchRow(dialog, label, value) : SetAction(value).Do(*control);
+  return control == nullptr ? SwitchRow(hands, dialog, label, value)
+                            : SetAction(hands, value).Do(*control);
 }
 
-bool SelectByUser(const CDialog& dialog, const std::u16string& label, const std::u16string& row) {
+bool SelectByUser(Hands& hands, const CDialog& dialog, const std::u16string& label,
+                  const std::u16string& row) {
   Control* control = FindControl(dialog, label);
-  return control != nullptr && SelectAction(row).Do(*control);
+  return control != nullptr && SelectAction(hands, row).Do(*control);
 }
 
 Clickable* FindButton(const CDialog& dialog, const std::u16string& label) {
