@@ -45,6 +45,7 @@ cmake_install() {
   shift
   cmake -G Ninja -S "$source" -B "$work/build-$(basename "$source")" \
     -DCMAKE_TOOLCHAIN_FILE="$toolchain" -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_CXX_FLAGS_RELEASE="-Os -DNDEBUG -ffunction-sections -fdata-sections" \
     -DCMAKE_INSTALL_PREFIX="$prefix" -DBUILD_SHARED_LIBS=OFF "$@"
   cmake --build "$work/build-$(basename "$source")" --target install
 }
