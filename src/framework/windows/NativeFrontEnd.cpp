@@ -1,7 +1,12 @@
 #include "framework/windows/NativeFrontEnd.h"
 
-#include "framework/scripted/ScriptedFrontEnd.h"
+#include <functional>
+
+#include "framework/windows/DialogWindow.h"
 #include "framework/windows/FileDialogs.h"
+#include "framework/windows/OpenWindows.h"
+#include "framework/windows/PropertySheetWindow.h"
+#include "framework/windows/WindowScope.h"
 #include "platform/FrontEnd.h"
 #include "platform/windows/System.h"
 #include "platform/windows/Wide.h"
@@ -39,60 +44,81 @@ Rectangle RectangleOf(HWND window) {
   return {rectangle.left, rectangle.top, rectangle.right, rectangle.bottom};
 }
 
-// Messages and the choosers of files and folders are the system's own; dialogs and the sheet are
-// run without a window.
-class NativeFrontEnd final : public FrontEnd {
- public:
-  WindowHandle FocusWindow() override { return GetFocus(); }
-
-  WindowHandle MainWindow() override {
-    HWND window = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), TakeMainWindow, reinterpret_cast<LPARAM>(&window));
-    return window;
+// In the font of a control's window; before it has one, in that which it will have.
+int Measure(const Control& control, const std::function<int(const FontMeasure&)>& measure) {
+  if (const ControlBinder* binder = OpenWindows::BinderOf(control)) {
+    const LRESULT font = SendMessageW(binder->Window(), WM_GETFONT, 0, 0);
+    return measure({reinterpret_cast<HFONT>(font), GetDpiForWindow(binder->Window())});
   }
-
-  int ShowMessage(const MessageBoxRequest& request) override {
-    const int pressed =
-        MessageBoxW(static_cast<HWND>(request.owner), Wide(request.text), Wide(request.title),
-                    IconFlag(request.icon) | ButtonsFlag(request.buttons));
-    return pressed == IDOK ? kIdOk : kIdCancel;
-  }
-
-  int RunModal(CDialog& dialog) override { return EnvironmentFrontEnd().RunModal(dialog); }
-
-  int RunModal(CPropertySheet& sheet) override { return EnvironmentFrontEnd().RunModal(sheet); }
-
-  std::optional<std::u16string> ChooseFile(const FileDialogRequest& request) override {
-    return ShowFileDialog(request);
-  }
-  std::optional<std::u16string> ChooseFolder(const FolderDialogRequest& request) override {
-    return ShowFolderDialog(request);
-  }
-  void OpenLink(const std::u16string& url) override {
-    ShellExecuteW(nullptr, L"open", Wide(url), nullptr, nullptr, SW_SHOWNORMAL);
-  }
-  int TextWidth(const Control& control, const std::u16string& text) override {
-    return EnvironmentFrontEnd().TextWidth(control, text);
-  }
-  int AverageCharacterWidth(const Control& control) override {
-    return EnvironmentFrontEnd().AverageCharacterWidth(control);
-  }
-  void Repaint(CDialog&) override {}
-
-  Rectangle ActiveWindowRectangle() override { return RectangleOf(GetActiveWindow()); }
-
-  Rectangle DesktopRectangle() override { return RectangleOf(GetDesktopWindow()); }
-
-  Rectangle DialogRectangle(const CDialog& dialog) override {
-    return EnvironmentFrontEnd().DialogRectangle(dialog);
-  }
-};
+  const unsigned dpi = GetDpiForSystem();
+  const DialogFont font(dpi);
+  return measure({font.Handle(), dpi});
+}
 
 }  // namespace
 
-FrontEnd& TheNativeFrontEnd() {
-  static NativeFrontEnd frontEnd;
-  return frontEnd;
+WindowHandle NativeFrontEnd::FocusWindow() { return GetFocus(); }
+
+WindowHandle NativeFrontEnd::MainWindow() {
+  HWND window = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), TakeMainWindow, reinterpret_cast<LPARAM>(&window));
+  return window;
+}
+
+int NativeFrontEnd::ShowMessage(const MessageBoxRequest& request) {
+  const WindowScope scope;
+  const int pressed =
+      MessageBoxW(static_cast<HWND>(request.owner), Wide(request.text), Wide(request.title),
+                  IconFlag(request.icon) | ButtonsFlag(request.buttons));
+  return pressed == IDOK ? kIdOk : kIdCancel;
+}
+
+int NativeFrontEnd::RunModal(CDialog& dialog) {
+  ModalEvents nobody;
+  return RunDialogWindow(dialog, nobody);
+}
+
+int NativeFrontEnd::RunModal(CPropertySheet& sheet) {
+  ModalEvents nobody;
+  return RunPropertySheetWindow(sheet, nobody);
+}
+
+std::optional<std::u16string> NativeFrontEnd::ChooseFile(const FileDialogRequest& request) {
+  const WindowScope scope;
+  return ShowFileDialog(request);
+}
+
+std::optional<std::u16string> NativeFrontEnd::ChooseFolder(const FolderDialogRequest& request) {
+  const WindowScope scope;
+  return ShowFolderDialog(request);
+}
+
+void NativeFrontEnd::OpenLink(const std::u16string& url) {
+  ShellExecuteW(nullptr, L"open", Wide(url), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+int NativeFrontEnd::TextWidth(const Control& control, const std::u16string& text) {
+  return Measure(control, [&](const FontMeasure& font) { return font.TextWidth(text); });
+}
+
+int NativeFrontEnd::AverageCharacterWidth(const Control& control) {
+  return Measure(control, std::mem_fn(&FontMeasure::AverageCharacterWidth));
+}
+
+void NativeFrontEnd::Repaint(CDialog& dialog) {
+  OpenWindows::Update();
+  if (const ControlHost* host = OpenWindows::HostOf(dialog)) {
+    RedrawWindow(host->Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  }
+}
+
+Rectangle NativeFrontEnd::ActiveWindowRectangle() { return RectangleOf(GetActiveWindow()); }
+
+Rectangle NativeFrontEnd::DesktopRectangle() { return RectangleOf(GetDesktopWindow()); }
+
+Rectangle NativeFrontEnd::DialogRectangle(const CDialog& dialog) {
+  const ControlHost* host = OpenWindows::HostOf(dialog);
+  return RectangleOf(host == nullptr ? nullptr : host->Window());
 }
 
 }  // namespace qutav

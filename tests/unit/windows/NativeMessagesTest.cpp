@@ -38,7 +38,7 @@ SeenBox Look(HWND box) {
 }
 
 int ShowBox(MessageIcon icon, MessageButtons buttons, WindowHandle owner = nullptr) {
-  return TheNativeFrontEnd().ShowMessage(
+  return NativeFrontEnd().ShowMessage(
       {owner, u"Kestrow \u017C", u"Na\u00EFve \u3042 & more\nline two", icon, buttons});
 }
 
@@ -103,7 +103,7 @@ TEST(NativeMessagesTest, ClosingAQuestionIsACancel) {
 
 TEST(NativeMessagesTest, TheWindowWithTheFocusIsDisabledWhileItsBoxIsShown) {
   const OwnerWindow host;
-  ASSERT_EQ(TheNativeFrontEnd().FocusWindow(), host.Window());
+  ASSERT_EQ(NativeFrontEnd().FocusWindow(), host.Window());
   HWND owner = nullptr;
   bool enabled = true;
   const ModalUser user(AnyDialog(), [&](HWND box) {
@@ -112,7 +112,7 @@ TEST(NativeMessagesTest, TheWindowWithTheFocusIsDisabledWhileItsBoxIsShown) {
     Press(box, IDOK);
   });
 
-  ShowBox(MessageIcon::kWarning, MessageButtons::kOk, TheNativeFrontEnd().FocusWindow());
+  ShowBox(MessageIcon::kWarning, MessageButtons::kOk, NativeFrontEnd().FocusWindow());
 
   EXPECT_EQ(owner, host.Window());
   EXPECT_FALSE(enabled);
@@ -123,7 +123,7 @@ TEST(NativeMessagesTest, TheWindowWithTheFocusIsDisabledWhileItsBoxIsShown) {
 TEST(NativeMessagesTest, TheMainWindowIsTheVisibleOneWithoutAnOwner) {
   const OwnerWindow host;
 
-  EXPECT_EQ(TheNativeFrontEnd().MainWindow(), host.Window());
+  EXPECT_EQ(NativeFrontEnd().MainWindow(), host.Window());
 }
 
 }  // namespace

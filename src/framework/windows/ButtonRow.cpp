@@ -1,0 +1,53 @@
+#include "framework/windows/ButtonRow.h"
+
+#include <algorithm>
+
+#include "framework/windows/DialogFont.h"
+#include "framework/windows/WindowText.h"
+
+namespace qutav {
+namespace {
+
+constexpr int kPadding = 6;  // in dialog units, on either side of a button's text
+
+RECT InWindow(HWND window, HWND child) {
+  RECT rect{};
+  GetWindowRect(child, &rect);
+  MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&rect), 2);
+  return rect;
+}
+
+struct RowButton {
+  HWND window;
+  RECT place;
+  int width;  ///< that it needs
+};
+
+RowButton Measured(HWND window, HWND button) {
+  const FontMeasure measure(reinterpret_cast<HFONT>(SendMessageW(button, WM_GETFONT, 0, 0)),
+                            GetDpiForWindow(window));
+  const RECT place = InWindow(window, button);
+  const int needed = measure.TextWidth(WindowText(button)) + 2 * measure.Horizontal(kPadding);
+  return {button, place, std::max(needed, static_cast<int>(place.right - place.left))};
+}
+
+}  // namespace
+
+void FitButtons(HWND window, std::vector<HWND> buttons) {
+  std::vector<RowButton> row;
+  for (HWND button : buttons) row.push_back(Measured(window, button));
+  std::sort(row.begin(), row.end(),
+            [](const auto& a, const auto& b) { return a.place.left < b.place.left; });
+  LONG right = row.back().place.right;
+  for (std::size_t i = row.size(); i-- > 0;) {
+    const LONG gap = i == 0 ? 0 : row[i].place.left - row[i - 1].place.right;
+    row[i].place = {right - row[i].width, row[i].place.top, right, row[i].place.bottom};
+    right = row[i].place.left - gap;
+  }
+  for (const RowButton& button : row) {
+    SetWindowPos(button.window, nullptr, button.place.left, button.place.top, button.width,
+                 button.place.bottom - button.place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+}
+
+}  // namespace qutav

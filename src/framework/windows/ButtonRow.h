@@ -1,0 +1,13 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/windows/System.h"
+
+namespace qutav {
+
+/// Gives the buttons in a row at the bottom of a window the width that their texts need. Those that
+/// need none stay as wide as they are; the row keeps its right end and its gaps.
+void FitButtons(HWND window, std::vector<HWND> buttons);
+
+}  // namespace qutav

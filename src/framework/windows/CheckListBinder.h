@@ -1,0 +1,30 @@
+// The window of a check list (`SysListView32`).
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "framework/CheckList.h"
+#include "framework/windows/ControlBinder.h"
+
+namespace qutav {
+
+class CheckListBinder final : public ControlBinder {
+ public:
+  CheckListBinder(CheckList& list, const WindowPlace& place);
+  void OnNotify(const NMHDR& notification) override;
+
+ private:
+  void Show() override;
+  void OnPlaced() override;
+  void AddColumn();
+  bool HasSameTexts() const;
+  void ShowRows();
+  void ShowStates();
+  void TakeChange(const NMLISTVIEW& change);
+
+  CheckList& list_;
+  std::vector<std::u16string> texts_;
+};
+
+}  // namespace qutav

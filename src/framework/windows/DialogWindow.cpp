@@ -1,0 +1,135 @@
+#include "framework/windows/DialogWindow.h"
+
+#include <optional>
+
+#include "framework/windows/ControlHost.h"
+#include "framework/windows/DialogTemplate.h"
+#include "framework/windows/ModalLoop.h"
+#include "framework/windows/OpenWindows.h"
+#include "framework/windows/WindowScope.h"
+#include "platform/windows/Wide.h"
+
+namespace qutav {
+namespace {
+
+constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
+
+class DialogWindow {
+ public:
+  DialogWindow(CDialog& dialog, ModalEvents& events)
+      : dialog_(dialog), events_(events), owner_(OwnerFor(dialog.Parent())) {
+    const DialogTemplate empty(kStyle, {});
+    window_ = CreateDialogIndirectParamW(OurModule(), empty.Get(), owner_, &Procedure,
+                                         reinterpret_cast<LPARAM>(this));
+    SetWindowTextW(window_, Wide(dialog_.Title()));
+    controls_.emplace(window_, dialog_, GetDpiForWindow(window_));
+    controls_->Update();
+    FitToControls();
+    CentreOnOwner();
+  }
+  ~DialogWindow() {
+    controls_.reset();
+    DestroyWindow(window_);
+  }
+  DialogWindow(const DialogWindow&) = delete;
+  DialogWindow& operator=(const DialogWindow&) = delete;
+
+  void Run() {
+    const Creation creation(dialog_);
+    OpenWindows::Update();
+    if (dialog_.IsPlaced()) MoveTo(dialog_.Left(), dialog_.Top());
+    const DisabledOwner modal(owner_);
+    if (!dialog_.HasEnded()) Show();
+    events_.OnShown();
+    RunModalLoop(window_, dialog_,
+                 [this](MSG& message) { return IsDialogMessageW(window_, &message) != FALSE; });
+  }
+
+ private:
+  // What is created is destroyed, also when an exception is on its way.
+  class Creation {
+   public:
+    explicit Creation(CDialog& dialog) : dialog_(dialog) { dialog_.Create(); }
+    ~Creation() { dialog_.Destroy(); }
+    Creation(const Creation&) = delete;
+    Creation& operator=(const Creation&) = delete;
+
+   private:
+    CDialog& dialog_;
+  };
+
+  static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+      SetWindowLongPtrW(window, DWLP_USER, lParam);
+      return TRUE;
+    }
+    auto* self = reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(window, DWLP_USER));
+    return self != nullptr && self->controls_ ? self->OnMessage(message, wParam, lParam) : FALSE;
+  }
+
+  INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CLOSE) {
+      RunEvent([this] { dialog_.OnCancel(); });
+      return TRUE;
+    }
+    if (message == WM_DPICHANGED) {
+      OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+      return TRUE;
+    }
+    const INT_PTR answer = controls_->OnMessage(message, wParam, lParam).value_or(FALSE);
+    if (message == WM_TIMER) events_.OnTick();
+    return answer;
+  }
+
+  void OnDpiChanged(unsigned dpi, const RECT& suggested) {
+    controls_->SetDpi(dpi);
+    FitToControls();
+    MoveTo(suggested.left, suggested.top);
+  }
+
+  void FitToControls() {
+    const Size size = controls_->NaturalSize();
+    RECT frame{0, 0, size.width, size.height};
+    AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
+                             static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)),
+                             controls_->Dpi());
+    SetWindowPos(window_, nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    controls_->Arrange(size);
+  }
+
+  void CentreOnOwner() const {
+    RECT over{};
+    GetWindowRect(owner_ != nullptr ? owner_ : GetDesktopWindow(), &over);
+    RECT own{};
+    GetWindowRect(window_, &own);
+    MoveTo((over.left + over.right - own.right + own.left) / 2,
+           (over.top + over.bottom - own.bottom + own.top) / 2);
+  }
+
+  void MoveTo(int left, int top) const {
+    SetWindowPos(window_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
+  void Show() const {
+    ShowWindow(window_, SW_SHOW);
+    SetFocus(GetNextDlgTabItem(window_, nullptr, FALSE));
+    UpdateWindow(window_);
+  }
+
+  CDialog& dialog_;
+  ModalEvents& events_;
+  HWND owner_;
+  HWND window_ = nullptr;
+  std::optional<ControlHost> controls_;
+};
+
+}  // namespace
+
+int RunDialogWindow(CDialog& dialog, ModalEvents& events) {
+  const WindowScope scope;
+  DialogWindow(dialog, events).Run();
+  return dialog.Result();
+}
+
+}  // namespace qutav

@@ -1,0 +1,69 @@
+#include "framework/windows/PictureBinders.h"
+
+#include "framework/CDialog.h"
+
+// behind the system's own header
+#include <objidl.h>
+// behind objidl.h
+#include <gdiplus.h>
+
+namespace qutav {
+namespace {
+
+Gdiplus::RectF InWindow(const Picture& picture, const RECT& window) {
+  const float x =
+      static_cast<float>(window.right - window.left) / static_cast<float>(picture.width);
+  const float y =
+      static_cast<float>(window.bottom - window.top) / static_cast<float>(picture.height);
+  const Rectangle& target = picture.Target();
+  return {static_cast<float>(target.left) * x, static_cast<float>(target.top) * y,
+          static_cast<float>(target.Width()) * x, static_cast<float>(target.Height()) * y};
+}
+
+void DrawImage(Gdiplus::Graphics& graphics, const Image& image, const Gdiplus::RectF& target) {
+  auto* pixels = const_cast<std::uint32_t*>(image.pixels.data());
+  Gdiplus::Bitmap bitmap(image.width, image.height, image.width * 4, PixelFormat32bppARGB,
+                         reinterpret_cast<BYTE*>(pixels));
+  graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
+  graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
+  graphics.DrawImage(&bitmap, target);
+}
+
+}  // namespace
+
+PictureBinder::PictureBinder(Picture& picture, const WindowPlace& place)
+    : ControlBinder(picture, place, {WC_STATICW, SS_OWNERDRAW, 0, true}), picture_(picture) {}
+
+// Drawn aside first, or it would flicker.
+void PictureBinder::OnDrawItem(const DRAWITEMSTRUCT& item) {
+  if (picture_.onPaint) CDialog::Dispatch(picture_.onPaint);
+  Gdiplus::Bitmap canvas(item.rcItem.right, item.rcItem.bottom, PixelFormat32bppPARGB);
+  Gdiplus::Graphics aside(&canvas);
+  aside.Clear(Gdiplus::Color(picture_.Background()));
+  if (picture_.Painted()) DrawImage(aside, *picture_.Painted(), InWindow(picture_, item.rcItem));
+  Gdiplus::Graphics(item.hDC).DrawImage(&canvas, 0, 0);
+  shownBackground_ = picture_.Background();
+  shownImage_ = picture_.Painted();
+}
+
+void PictureBinder::Show() {
+  if (shownBackground_ == picture_.Background() && shownImage_ == picture_.Painted()) return;
+  InvalidateRect(Window(), nullptr, FALSE);
+}
+
+ProgressBarBinder::ProgressBarBinder(ProgressBar& bar, const WindowPlace& place)
+    : ControlBinder(bar, place, {PROGRESS_CLASSW, PBS_MARQUEE}), bar_(bar) {}
+
+void ProgressBarBinder::Show() {
+  if (bar_.rangeEnd != rangeEnd_) {
+    rangeEnd_ = bar_.rangeEnd;
+    Send(PBM_SETRANGE32, 0, rangeEnd_);
+  }
+  if (bar_.marqueeStep != marqueeStep_) {
+    marqueeStep_ = bar_.marqueeStep;
+    Send(PBM_SETMARQUEE, marqueeStep_.count() > 0 ? TRUE : FALSE,
+         static_cast<LPARAM>(marqueeStep_.count()));
+  }
+}
+
+}  // namespace qutav
