@@ -42,6 +42,8 @@ class ControlBinder {
   Control& Model() const { return control_; }
   HWND Window() const { return window_; }
   HWND CaptionWindow() const { return caption_; }
+  /// False for a window that somebody else has created and put in its place.
+  bool IsOurs() const { return owned_; }
 
   void SetFont(HFONT font, unsigned dpi);
   /// The caption, and the text of a control that is read rather than filled, as `text` has it: with

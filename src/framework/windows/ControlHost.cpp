@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "framework/windows/ModalLoop.h"
 #include "framework/windows/OpenWindows.h"
 
 namespace qutav {
@@ -53,7 +54,7 @@ void ControlHost::AddNew() {
     ControlBinder* binder = BinderOf(*control);
     if (binder == nullptr) {
       binder = binders_.emplace_back(Bind(*control, {window_, nextId_++, dpi_})).get();
-      PutBehind(*binder, former);
+      if (binder->IsOurs()) PutBehind(*binder, former);
     }
     former = binder->Window();
   }
@@ -127,7 +128,7 @@ void ControlHost::UpdateTimers() {
 }
 
 void ControlHost::WakeWhenEnded() const {
-  if (dialog_.HasEnded()) PostMessageW(window_, WM_NULL, 0, 0);
+  if (dialog_.HasEnded()) WakeModalLoop();
 }
 
 std::optional<INT_PTR> ControlHost::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -72,6 +72,7 @@ class DialogWindow {
       RunEvent([this] { dialog_.OnCancel(); });
       return TRUE;
     }
+    if (message == WM_DESTROY) WakeModalLoop();
     if (message == WM_DPICHANGED) {
       OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return TRUE;

@@ -44,4 +44,6 @@ void RunModalLoop(HWND window, CDialog& dialog, const KeyFilter& isDialogKey) {
   }
 }
 
+void WakeModalLoop() { PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0); }
+
 }  // namespace qutav

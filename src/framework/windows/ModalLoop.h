@@ -32,4 +32,7 @@ using KeyFilter = std::function<bool(MSG&)>;
 /// window that somebody destroys, cancel the dialog.
 void RunModalLoop(HWND window, CDialog& dialog, const KeyFilter& isDialogKey);
 
+/// Makes the loop look at its dialog and its window.
+void WakeModalLoop();
+
 }  // namespace qutav

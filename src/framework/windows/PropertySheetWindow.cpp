@@ -123,10 +123,9 @@ class PropertySheetWindow final : public SheetWindow {
     ScrollWindow(window_, 0, distance, nullptr, nullptr);
   }
 
+  // The system has turned already when the user does.
   void ShowPage(int index) override {
-    const bool wasTurning = std::exchange(turning_, true);
-    PropSheet_SetCurSel(window_, nullptr, index);
-    turning_ = wasTurning;
+    if (index != arrivingPage_) TurnTo(index);
     events_.OnPage(index);
   }
 
@@ -178,10 +177,18 @@ class PropertySheetWindow final : public SheetWindow {
     turning_ = false;
   }
 
+  void TurnTo(int index) {
+    const bool wasTurning = std::exchange(turning_, true);
+    PropSheet_SetCurSel(window_, nullptr, index);
+    turning_ = wasTurning;
+  }
+
   // The user has turned to a page.
   void OnTurned(int index) {
     if (turning_) return;
+    const int former = std::exchange(arrivingPage_, index);
     RunEvent([&] { sheet_.SetActivePage(index); });
+    arrivingPage_ = former;
   }
 
   std::vector<HWND> ButtonWindows() const {
@@ -209,6 +216,9 @@ class PropertySheetWindow final : public SheetWindow {
         RunEvent(
             [&] { sheet_.OnVScroll(static_cast<ScrollCode>(LOWORD(wParam)), HIWORD(wParam)); });
         return true;
+      case WM_DESTROY:
+        WakeModalLoop();
+        return false;
       case WM_MOUSEWHEEL:
         return OnWheel(GET_WHEEL_DELTA_WPARAM(wParam));
       default:
@@ -230,6 +240,7 @@ class PropertySheetWindow final : public SheetWindow {
   HWND window_ = nullptr;
   std::optional<SheetControls> controls_;
   bool turning_ = false;
+  int arrivingPage_ = -1;
 };
 
 }  // namespace
