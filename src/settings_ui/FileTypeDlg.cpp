@@ -79,7 +79,7 @@ Layout CFileTypeDlg::AddPreviews() {
     icon.preview->onPaint = [&icon] { PaintPreview(icon); };
     previews.push_back(icon.preview);
   }
-  return layout::Gallery(std::move(previews));
+  return layout::Gallery(previews);
 }
 
 Layout CFileTypeDlg::AddIconRows() {

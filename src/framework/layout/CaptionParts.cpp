@@ -195,7 +195,7 @@ Layout Above(const Control& captioned, Layout content) {
   return Column({CaptionOf(captioned), std::move(content)}, kCaptionGap);
 }
 
-Layout Gallery(std::vector<const Picture*> pictures) {
+Layout Gallery(const std::vector<const Picture*>& pictures) {
   Parts parts;
   for (const Picture* picture : pictures) {
     parts.push_back(Layout(std::make_shared<ExhibitPart>(*picture, pictures)));

@@ -61,7 +61,7 @@ Layout Group(const GroupBox& box, Layout content);
 /// A field's caption, above what holds the field.
 Layout Above(const Control& captioned, Layout content);
 /// Pictures with their bottoms in line and their captions below them.
-Layout Gallery(std::vector<const Picture*> pictures);
+Layout Gallery(const std::vector<const Picture*>& pictures);
 
 // --- Forms ---------------------------------------------------------------------------------------
 
