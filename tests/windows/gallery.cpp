@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "descriptor/DescriptorDocument.h"
+#include "framework/FrontEnds.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "platform/windows/System.h"
@@ -34,6 +35,7 @@ FileTypeRecord SavedGame() {
 void OpenDocument(const std::u16string& folder) {
   SettingsSet(keys::kMovieFolder, folder);
   SettingsSet(keys::kMovieBaseName, u"Game");
+  CurrentDescriptor.InitParser();
   CurrentDescriptor.Load(folder + u"Game-app.xml");
 }
 
@@ -62,6 +64,7 @@ int main(int count, char** arguments) {
     return 2;
   }
   InstallSystemServices();
+  TheServices().frontEnd = &SystemFrontEnd();
   TheServices().language->SetThreadInterfaceLanguage(LanguageIdForCode(FromUtf8(arguments[3])));
   OpenDocument(FromUtf8(arguments[2]) + u"\\");
   ShowDialogs();

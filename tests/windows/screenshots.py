@@ -86,8 +86,7 @@ class Photographer:
              **self.picture("ios-deployment")}, {"press": "Cancel"}]})
 
     def take_dialogs(self):
-        answers = [{"to": "dialog", "class": name,
-                    "steps": [self.picture(file), {"press": "Cancel"}]}
+        answers = [{"to": "dialog", "class": name, **self.picture(file)}
                    for name, file in DIALOGS.items()]
         self.run(answers, BUILD / "tests" / "windows" / "gallery.exe",
                  windows_path(BUILD / "QuTavAndroidExt.dll"), windows_path(self.game), self.code)

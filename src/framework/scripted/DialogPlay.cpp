@@ -44,14 +44,14 @@ void DialogPlay::OnShown() {
   director_.Pressed().clear();
   const bool atOnce = answer_ && (answer_->after.value_or(0) == 0 || !WaitsForTicks());
   if (atOnce) player_.Play(answer_->steps);
-  if (!WaitsForTicks()) player_.Press("Cancel");
+  if (!WaitsForTicks()) player_.Leave();
 }
 
 void DialogPlay::OnTick() {
   director_.GetTranscript().Write(
       {{"event", "tick"}, {"class", ToUtf8(dialog_.ClassName())}, {"count", ++ticks_}});
   if (answer_ && answer_->after == ticks_) player_.Play(answer_->steps);
-  if (!WaitsForTicks()) player_.Press("Cancel");
+  if (!WaitsForTicks()) player_.Leave();
 }
 
 bool DialogPlay::WaitsForTicks() const { return !dialog_.Timers().empty(); }

@@ -10,8 +10,8 @@
 
 namespace qutav {
 
-/// Made before the dialog is created. In the end the dialog has been told to end, by the script or,
-/// when it does not end itself, by a press on Cancel.
+/// Made before the dialog is created. A dialog that the script does not end, and that does not end
+/// itself, is cancelled.
 class DialogPlay final : public ModalEvents {
  public:
   DialogPlay(CDialog& dialog, Hands& hands, ScriptDirector& director);
@@ -20,7 +20,7 @@ class DialogPlay final : public ModalEvents {
   void OnShown() override;
   void OnTick() override;
   void OnPage(int index) override;
-  /// The dialog has ended; it has not been destroyed.
+  /// The dialog has ended.
   void OnClosed();
 
  private:

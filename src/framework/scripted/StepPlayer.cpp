@@ -12,6 +12,12 @@ void StepPlayer::Play(const std::vector<ScriptStep>& steps) {
   }
 }
 
+void StepPlayer::Leave() {
+  if (dialog_.HasEnded()) return;
+  if (FindButton(dialog_, u"Cancel") != nullptr) return Press("Cancel");
+  CDialog::Dispatch([&] { dialog_.OnCancel(); });
+}
+
 void StepPlayer::PlayStep(const ScriptStep& step) {
   if (!step.page.empty()) TurnTo(step.page);
   for (const auto& [list, row] : step.select) {

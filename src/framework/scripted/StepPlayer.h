@@ -24,11 +24,12 @@ class StepPlayer {
   /// Until the dialog ends. A step that cannot be carried out is a mistake of the script: it is
   /// told, and the dialog is cancelled.
   void Play(const std::vector<ScriptStep>& steps);
-  /// Presses one button, unless the dialog has ended.
-  void Press(const std::string& label);
+  /// Cancels the dialog, by its button if it has one, unless it has ended.
+  void Leave();
 
  private:
   void PlayStep(const ScriptStep& step);
+  void Press(const std::string& label);
   void TurnTo(const std::string& page);
   void Select(const std::string& list, const std::string& row);
   void Set(const std::string& label, const std::string& value);

@@ -114,8 +114,18 @@ class DialogWindow {
 
   void Show() const {
     ShowWindow(window_, SW_SHOW);
-    SetFocus(GetNextDlgTabItem(window_, nullptr, FALSE));
+    SetFocus(FirstFocus());
     UpdateWindow(window_);
+  }
+
+  // The first control; but a dialog that has only buttons begins on its default one.
+  HWND FirstFocus() const {
+    const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);
+    const LRESULT byDefault = SendMessageW(window_, DM_GETDEFID, 0, 0);
+    const bool isButton = (SendMessageW(first, WM_GETDLGCODE, 0, 0) &
+                           (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+    if (!isButton || HIWORD(byDefault) != DC_HASDEFID) return first;
+    return GetDlgItem(window_, LOWORD(byDefault));
   }
 
   CDialog& dialog_;

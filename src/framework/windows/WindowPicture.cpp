@@ -34,6 +34,7 @@ class WindowContext {
 }  // namespace
 
 bool WriteWindowPicture(HWND window, const std::string& path) {
+  SetActiveWindow(window);
   RedrawWindow(window, nullptr, nullptr,
                RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
   RECT rect{};
