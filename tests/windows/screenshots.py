@@ -72,8 +72,6 @@ class Photographer:
     def filled(page):
         if page == "Deployment":
             return {"set": {"Certificate:": "C:\\Keys\\release.p12", "Password:": "practice-only"}}
-        if page == "Permissions":
-            return {"select": {"Permission Name": "CAMERA"}}
         return {}
 
     def take_ios_form(self):
@@ -88,6 +86,7 @@ class Photographer:
     def take_dialogs(self):
         answers = [{"to": "dialog", "class": name, **self.picture(file)}
                    for name, file in DIALOGS.items()]
+        answers[0]["steps"] = [{"press": "Cancel"}]  # or its timer would go on
         self.run(answers, BUILD / "tests" / "windows" / "gallery.exe",
                  windows_path(BUILD / "QuTavAndroidExt.dll"), windows_path(self.game), self.code)
 

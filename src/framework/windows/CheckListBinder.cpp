@@ -9,6 +9,7 @@ namespace qutav {
 namespace {
 
 constexpr int kAroundColumn = 4;
+constexpr int kAroundHeading = 20;
 
 LVITEMW ItemOf(int index, const std::u16string& text) {
   LVITEMW item{};
@@ -50,12 +51,17 @@ void CheckListBinder::AddColumn() {
   ListView_InsertColumn(Window(), 0, &column);
 }
 
-void CheckListBinder::OnPlaced() {
-  RECT place{};
-  GetWindowRect(Window(), &place);
-  const int whole = place.right - place.left - kAroundColumn;
-  ListView_SetColumnWidth(
-      Window(), 0, list_.columnWidth == CheckList::kWholeWidth ? whole : Scaled(list_.columnWidth));
+void CheckListBinder::OnPlaced() { ListView_SetColumnWidth(Window(), 0, ColumnWidth()); }
+
+// At least what the heading needs, which is longer in some languages.
+int CheckListBinder::ColumnWidth() const {
+  if (list_.columnWidth == CheckList::kWholeWidth) {
+    RECT place{};
+    GetWindowRect(Window(), &place);
+    return place.right - place.left - kAroundColumn;
+  }
+  const int heading = ListView_GetStringWidth(Window(), Wide(list_.caption));
+  return std::max(Scaled(list_.columnWidth), heading + Scaled(kAroundHeading));
 }
 
 void CheckListBinder::OnNotify(const NMHDR& notification) {

@@ -18,6 +18,7 @@ class CheckListBinder final : public ControlBinder {
   void Show() override;
   void OnPlaced() override;
   void AddColumn();
+  int ColumnWidth() const;
   bool HasSameTexts() const;
   void ShowRows();
   void ShowStates();
