@@ -9,6 +9,7 @@
 #include "framework/ControlVisitor.h"
 #include "framework/Picture.h"
 #include "platform/Text.h"
+#include "settings_ui/SettingsPages.h"
 #include "win/InterfaceLanguage.h"
 
 namespace qutav::test {
