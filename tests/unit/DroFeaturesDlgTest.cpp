@@ -78,7 +78,7 @@ TEST_F(DroFeaturesDlgTest, ShowsItsControlsInOrderUnderItsTitle) {
   EXPECT_EQ(List().caption, u"Permission Name");
   EXPECT_EQ(List().columnWidth, CheckList::kWholeWidth);
   EXPECT_TRUE(List().fullRowSelect);
-  EXPECT_EQ(Find<Edit>(page, u"Description:").style, EditStyle::kReadOnly);
+  EXPECT_EQ(Find<Edit>(page, u"Description:").style, EditStyle::kReadOnlyLines);
 }
 
 TEST_F(DroFeaturesDlgTest, ShowsARowForEveryFeatureOfTheFile) {
