@@ -23,10 +23,6 @@ struct LauncherOption {
 constexpr std::array<LauncherOption, 4> kOptions = {
     {{4, "-profile"}, {10, "-extdir"}, {7, "-screensize"}, {12, "-Xsimulation"}}};
 
-std::u16string TextAt(const std::vector<ScriptValue>& arguments, std::size_t place) {
-  return TextOf(arguments[place]).value_or(u"");
-}
-
 std::filesystem::path PathAt(const std::vector<ScriptValue>& arguments, std::size_t place) {
   return FromNativeForm(TextAt(arguments, place));
 }

@@ -26,10 +26,6 @@ constexpr double kExportFailed = 0;
 constexpr double kLaunched = 0;
 constexpr double kLaunchFailed = 1;
 
-std::u16string TextAt(const Arguments& arguments, std::size_t index) {
-  return TextOf(arguments[index]).value_or(u"");
-}
-
 ScriptValue ValueOfData(const Document::Json& data) {
   if (data.is_number()) return data.get<double>();
   return FromUtf8(data.get<std::string>());

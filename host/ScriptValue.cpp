@@ -36,6 +36,10 @@ std::optional<std::u16string> TextOf(const ScriptValue& value) {
   return std::nullopt;
 }
 
+std::u16string TextAt(const std::vector<ScriptValue>& arguments, std::size_t place) {
+  return TextOf(arguments[place]).value_or(u"");
+}
+
 double NumberOf(const ScriptValue& value) {
   if (const auto* number = std::get_if<double>(&value)) return *number;
   if (const auto* flag = std::get_if<bool>(&value)) return *flag ? 1 : 0;

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace qutav::host {
 
@@ -19,6 +20,9 @@ using ScriptValue = std::variant<std::monostate, bool, double, std::u16string, O
 
 /// The value as text; nothing for undefined and null.
 std::optional<std::u16string> TextOf(const ScriptValue& value);
+
+/// The text of an argument; empty for undefined and null.
+std::u16string TextAt(const std::vector<ScriptValue>& arguments, std::size_t place);
 
 /// The value as a number; text that is not wholly a decimal number is 0.
 double NumberOf(const ScriptValue& value);
