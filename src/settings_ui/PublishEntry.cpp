@@ -10,8 +10,6 @@
 namespace qutav {
 namespace {
 
-constexpr int kDeploymentPage = 1;
-
 PublishTarget ChooseTarget() {
   if (SettingsEquals(keys::kPublishIpa, u"true")) return PublishTargetIpa;
   const bool executable =

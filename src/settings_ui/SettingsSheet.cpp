@@ -19,7 +19,6 @@
 namespace qutav {
 namespace {
 
-constexpr int kDeploymentPage = 1;
 constexpr int kPublishCommand = 8085;
 constexpr int kPublishWidening = 5;  // on either side
 

@@ -7,6 +7,9 @@ namespace qutav {
 
 struct SettingsPages;
 
+/// The place of the page with the signing material, in both forms.
+constexpr int kDeploymentPage = 1;
+
 /// The settings sheet in its Android or its iOS form. It owns no settings: it says which pages
 /// there are, in what order they are stored, and what counts as a change.
 class CSettingsPropSheet final : public CPropertySheet, public CSettingsPropSheetScroll {
