@@ -67,7 +67,7 @@ const char* WantedText(Kind kind) {
   return "";
 }
 
-std::string Quoted(const std::string& name) { return "member \"" + name + "\" "; }
+std::string MemberNamed(const std::string& name) { return "member \"" + name + "\" "; }
 
 void CheckMembers(const Json& content, std::vector<std::string>& problems) {
   for (const MemberRule& rule : kMembers) {
@@ -78,10 +78,10 @@ void CheckMembers(const Json& content, std::vector<std::string>& problems) {
     if (!parentHolds) continue;
     if (content.contains(pointer)) {
       if (!Fits(content.at(pointer), rule.kind)) {
-        problems.push_back(Quoted(rule.name) + WantedText(rule.kind));
+        problems.push_back(MemberNamed(rule.name) + WantedText(rule.kind));
       }
     } else if (rule.required) {
-      problems.push_back(Quoted(rule.name) + "is missing");
+      problems.push_back(MemberNamed(rule.name) + "is missing");
     }
   }
 }
@@ -91,7 +91,7 @@ void CheckData(const Json& content, std::vector<std::string>& problems) {
   if (data == content.end() || !data->is_object()) return;
   for (const auto& [key, value] : data->items()) {
     if (!value.is_string() && !value.is_number()) {
-      problems.push_back(Quoted("data." + key) + "must be a text or a number");
+      problems.push_back(MemberNamed("data." + key) + "must be a text or a number");
     }
   }
 }

@@ -11,19 +11,16 @@
 namespace qutav::host {
 namespace {
 
-using Kind = SettingsChange::Kind;
-using Json = nlohmann::json;
-
 std::vector<SettingsChange> ChangesOf(const SettingsOptions& options) {
   std::vector<SettingsChange> changes;
   for (const std::string& text : options.set) {
-    changes.push_back(ParseSettingsChange(text, Kind::kText));
+    changes.push_back(ParseSettingsChange(text, SettingsChange::Kind::kText));
   }
   for (const std::string& text : options.setFromEnvironment) {
-    changes.push_back(ParseSettingsChange(text, Kind::kEnvironment));
+    changes.push_back(ParseSettingsChange(text, SettingsChange::Kind::kEnvironment));
   }
   for (const std::string& text : options.setFromFile) {
-    changes.push_back(ParseSettingsChange(text, Kind::kFile));
+    changes.push_back(ParseSettingsChange(text, SettingsChange::Kind::kFile));
   }
   return changes;
 }
@@ -38,7 +35,9 @@ int RunSettings(const SettingsOptions& options, Console& console) {
   LibraryRun library(options, frontEnd.Transcript(), console);
   library.Run(SettingsScript(options.common, document));
   if (library.WasRefused()) return kRefused;
-  for (const Json& page : library.Record().PagesShown()) console.Result(SettingsTable(page));
+  for (const nlohmann::json& page : library.Record().PagesShown()) {
+    console.Result(SettingsTable(page));
+  }
   const bool stored = library.Record().SheetAnswer() == (changes.empty() ? "Cancel" : "OK");
   return library.Succeeded() && stored ? kDone : kNotDone;
 }

@@ -6,8 +6,6 @@
 namespace qutav::host {
 namespace {
 
-using Json = nlohmann::json;
-
 constexpr std::size_t kValueColumn = 44;
 
 std::string Row(const std::string& name, const std::string& value) {
@@ -22,7 +20,7 @@ std::string Mark(bool set) { return set ? "[x]" : "[ ]"; }
 // What stands in the fields and lists of a page, a line each; the rest is decoration.
 class Table {
  public:
-  void Add(const Json& control) {
+  void Add(const nlohmann::json& control) {
     const std::string kind = control.at("kind");
     const std::string name = Address(control.at("label"));
     if (kind == "group") text_ += " " + control.at("label").get<std::string>() + "\n";
@@ -41,16 +39,16 @@ class Table {
     const int occurrence = ++occurrences_[label];
     return occurrence == 1 ? label : label + "#" + std::to_string(occurrence);
   }
-  void AddSwitch(const std::string& name, const Json& control) {
+  void AddSwitch(const std::string& name, const nlohmann::json& control) {
     AddRow(name, Mark(control.at("checked")), control);
   }
-  void AddRow(const std::string& name, const std::string& value, const Json& control) {
+  void AddRow(const std::string& name, const std::string& value, const nlohmann::json& control) {
     const bool enabled = control.value("enabled", true);
     text_ += Row(name, enabled ? value : value + (value.empty() ? "(off)" : " (off)"));
   }
-  void AddList(const std::string& name, const Json& list) {
+  void AddList(const std::string& name, const nlohmann::json& list) {
     AddRow(name, "", list);
-    for (const Json& row : list.at("rows")) {
+    for (const nlohmann::json& row : list.at("rows")) {
       if (row.is_string()) text_ += "    " + row.get<std::string>() + "\n";
       if (row.is_object()) {
         text_ += Row("  " + row.at("text").get<std::string>(), Mark(row.at("checked")));
@@ -64,9 +62,9 @@ class Table {
 
 }  // namespace
 
-std::string SettingsTable(const Json& page) {
+std::string SettingsTable(const nlohmann::json& page) {
   Table table;
-  for (const Json& control : page.at("controls")) table.Add(control);
+  for (const nlohmann::json& control : page.at("controls")) table.Add(control);
   return page.at("title").get<std::string>() + "\n" + table.Take();
 }
 

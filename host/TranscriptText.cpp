@@ -5,9 +5,7 @@
 namespace qutav::host {
 namespace {
 
-using Json = nlohmann::json;
-
-std::string TextMember(const Json& event, const char* name) {
+std::string TextMember(const nlohmann::json& event, const char* name) {
   const auto found = event.find(name);
   return found != event.end() && found->is_string() ? found->get<std::string>() : std::string();
 }
@@ -23,7 +21,7 @@ std::string Indented(const std::string& text) {
   return out;
 }
 
-std::string MessageText(const Json& event) {
+std::string MessageText(const nlohmann::json& event) {
   const std::string icon = TextMember(event, "icon");
   std::string line = TextMember(event, "title");
   // A box of the system's own has no icon.
@@ -35,7 +33,7 @@ std::string MessageText(const Json& event) {
   return line;
 }
 
-std::string ClosedText(const Json& event) {
+std::string ClosedText(const nlohmann::json& event) {
   const std::string answer = TextMember(event, "answer");
   if (answer.empty()) return "";
   return TextMember(event, "title") + " (answered: " + answer + ")";
@@ -43,7 +41,7 @@ std::string ClosedText(const Json& event) {
 
 }  // namespace
 
-std::string ReadableEvent(const Json& event) {
+std::string ReadableEvent(const nlohmann::json& event) {
   const std::string kind = TextMember(event, "event");
   if (kind == "message") return MessageText(event);
   if (kind == "closed") return ClosedText(event);
@@ -52,7 +50,7 @@ std::string ReadableEvent(const Json& event) {
   return "";
 }
 
-std::string ProgressText(const Json& event) {
+std::string ProgressText(const nlohmann::json& event) {
   const auto count = event.find("count");
   const bool ticks = TextMember(event, "event") == "tick" &&
                      TextMember(event, "class") == kProgressDialogClass && count != event.end() &&

@@ -48,7 +48,7 @@ constexpr std::array<Profile, 4> kProfiles = {{
     {u"extendedMobileDevice", u"extendedMobileDevice", 3},
 }};
 
-void BringNamespaceForward() {
+void BringFirstNamespacesForward() {
   std::string sample;
   if (ReadSampleNamespace(sample) != 0) return;
   std::string own;
@@ -57,7 +57,7 @@ void BringNamespaceForward() {
   CurrentDescriptor.SetAttribute("application", "xmlns", sample);
 }
 
-std::u16string OutputFileToShow() {
+std::u16string UsableOutputFile() {
   const std::u16string baseName = SettingsGet(keys::kMovieBaseName);
   std::u16string path = SettingsGet(keys::kTavDestination);
   if (path.empty()) return WithBackslashes(baseName + u".apk");
@@ -199,11 +199,11 @@ void CAppSettingsDlg::FillLists() {
 
 int CAppSettingsDlg::LoadFromDescriptor() {
   descriptorPath = DocumentDescriptorPath();
-  BringNamespaceForward();
+  BringFirstNamespacesForward();
   LoadNames();
   LoadDescription();
   windowStyle_->SetCurSel(WindowStyleToShow());
-  outputFile_->text = OutputFileToShow();
+  outputFile_->text = UsableOutputFile();
   installer_->checked = SettingsEquals(keys::kPublishExe, u"true");
   LoadProfiles();
   FillIncludedFiles(*includedFiles_);

@@ -21,7 +21,7 @@
 namespace qutav {
 namespace {
 
-constexpr char16_t kCopiedIconsFolder[] = u"FileTypeIconsForTAVPublish";
+constexpr char16_t kFileTypeIconsFolder[] = u"FileTypeIconsForTAVPublish";
 
 std::uint32_t TextId(std::uint32_t first, std::size_t index) {
   return first + static_cast<std::uint32_t>(index);
@@ -154,7 +154,8 @@ void CFileTypeDlg::PickIconFile(Icon& icon) {
   if (!file) return;
   if (!IsBelowRoot(*file, rootFolder_)) {
     if (!AskToCopyIcon()) return;
-    if (TheServices().files->Exists(*file)) file = CopyIcon(*file, rootFolder_, kCopiedIconsFolder);
+    if (TheServices().files->Exists(*file))
+      file = CopyIcon(*file, rootFolder_, kFileTypeIconsFolder);
   }
   icon.path->text = MakeRelative(*file, rootFolder_);
   icon.image = TheServices().images->Load(*file);

@@ -30,7 +30,7 @@ constexpr IconSize kIconSizes[] = {
 };
 
 constexpr int kPreviewSide = 192;
-constexpr char16_t kCopiedIconsFolder[] = u"AppIconsForPublish";
+constexpr char16_t kAppIconsFolder[] = u"AppIconsForPublish";
 
 bool IsOffered(const IconSize& size) {
   return size.sinceLevel == nullptr || RuntimeIsAtLeast(size.sinceLevel);
@@ -135,7 +135,7 @@ void CIconPreviewDlg::BrowseIcon() {
 std::u16string CIconPreviewDlg::RelativePathOf(const std::u16string& file) const {
   if (IsBelowRoot(file, rootFolder)) return MakeRelative(file, rootFolder);
   if (!AskToCopyIcon()) return {};
-  return MakeRelative(CopyIcon(file, rootFolder, kCopiedIconsFolder), rootFolder);
+  return MakeRelative(CopyIcon(file, rootFolder, kAppIconsFolder), rootFolder);
 }
 
 // A copied file stays in its folder.

@@ -34,7 +34,7 @@ constexpr int kDirectRow = 3;
 enum Processor { kArmV7, kIntel, kArmV8 };
 constexpr std::array<const char16_t*, 3> kProcessorTypes = {u"arm", u"x86", u"armv8"};
 
-void BringNamespaceForward() {
+void FollowSampleNamespace() {
   std::string sample;
   if (ReadSampleNamespace(sample) != 0) return;
   std::string own;
@@ -51,7 +51,7 @@ void EnterTargetPlatform() {
   if (old != u"Nothing" && old != u"Android") RemoveApplicationIcons();
 }
 
-std::u16string OutputFileToShow() {
+std::u16string StoredOutputFile() {
   const std::u16string stored = SettingsGet(keys::kTavDestination);
   if (stored.empty()) return SettingsGet(keys::kMovieBaseName) + u".apk";
   return ReplaceExtension(stored, u"apk");
@@ -200,10 +200,10 @@ void CIpaSettingsDlg::FillLists() {
 
 int CIpaSettingsDlg::LoadFromDescriptor() {
   descriptorPath = DocumentDescriptorPath();
-  BringNamespaceForward();
+  FollowSampleNamespace();
   EnterTargetPlatform();
   SelectProcessorFromSettings();
-  outputFile_->text = OutputFileToShow();
+  outputFile_->text = StoredOutputFile();
   LoadNames();
   LoadWindow();
   FillIncludedFiles(*includedFiles_);

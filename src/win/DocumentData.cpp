@@ -41,7 +41,7 @@ std::u16string DocumentCall(const std::u16string& operation, const std::u16strin
 std::u16string Quoted(const std::u16string& text) { return u"\"" + text + u"\""; }
 
 // Texts that the document gives as "0" count as not held, as the number 0 does.
-std::optional<std::u16string> StoredText(const HostCallContext& call, const std::u16string& key) {
+std::optional<std::u16string> HeldText(const HostCallContext& call, const std::u16string& key) {
   auto text = EvaluateToText(call, DocumentDataScript(key));
   if (text && (text->empty() || *text == u"0")) text.reset();
   return text;
@@ -61,7 +61,7 @@ std::u16string DocumentDataScript(const std::u16string& key) {
 
 void ReadDocumentKey(const HostCallContext& call, const std::u16string& key) {
   if (key.empty()) return;
-  if (const auto text = StoredText(call, key)) SettingsSet(key, *text);
+  if (const auto text = HeldText(call, key)) SettingsSet(key, *text);
 }
 
 void WriteDocumentKey(const HostCallContext& call, const std::u16string& key) {
@@ -92,7 +92,7 @@ void SaveDocumentSettings(const HostCallContext& call) {
   }
   // The count just written is what is read here, so a shorter list leaves its surplus behind;
   // loading stops at the count.
-  ForEachIncludedItem(StoredText(call, keys::kIncludedCount).value_or(u""),
+  ForEachIncludedItem(HeldText(call, keys::kIncludedCount).value_or(u""),
                       [&](const std::u16string& item) { RemoveDocumentKey(call, item); });
   ForEachIncludedItem(SettingsGet(keys::kIncludedCount),
                       [&](const std::u16string& item) { WriteDocumentKey(call, item); });

@@ -7,22 +7,21 @@
 namespace qutav::host {
 namespace {
 
-using Json = nlohmann::json;
-
-const Json kProgressOpens = {{"event", "dialog"}, {"class", "CProgressDlg"}};
-const Json kProgressEnds = {{"event", "closed"}, {"class", "CProgressDlg"}, {"answer", nullptr}};
-const Json kProgressCancelled = {
+const nlohmann::json kProgressOpens = {{"event", "dialog"}, {"class", "CProgressDlg"}};
+const nlohmann::json kProgressEnds = {
+    {"event", "closed"}, {"class", "CProgressDlg"}, {"answer", nullptr}};
+const nlohmann::json kProgressCancelled = {
     {"event", "closed"}, {"class", "CProgressDlg"}, {"answer", "Cancel"}};
-const Json kMade = {
+const nlohmann::json kMade = {
     {"event", "message"}, {"icon", "information"}, {"text", "APK file has been created."}};
-const Json kWarning = {
+const nlohmann::json kWarning = {
     {"event", "message"}, {"icon", "warning"}, {"text", "Error creating files."}};
-const Json kSheet = {{"event", "sheet"}, {"title", "TAV for Android Settings"}};
-const Json kPublishPressed = {{"event", "pressed"}, {"button", "Publish"}};
+const nlohmann::json kSheet = {{"event", "sheet"}, {"title", "TAV for Android Settings"}};
+const nlohmann::json kPublishPressed = {{"event", "pressed"}, {"button", "Publish"}};
 
-PublishRecord RecordOf(std::initializer_list<Json> events) {
+PublishRecord RecordOf(std::initializer_list<nlohmann::json> events) {
   PublishRecord record;
-  for (const Json& event : events) record.Take(event);
+  for (const nlohmann::json& event : events) record.Take(event);
   return record;
 }
 

@@ -7,7 +7,6 @@ namespace qutav::host {
 namespace {
 
 using Json = nlohmann::ordered_json;
-using Kind = SettingsChange::Kind;
 
 TEST(SettingsAnswersTest, WithoutChangesEveryPageOfTheFormIsShownAndTheSheetLeft) {
   EXPECT_EQ(SettingsAnswers({}, false), Json::parse(R"({"answers": [{"to": "sheet", "steps": [
@@ -18,10 +17,11 @@ TEST(SettingsAnswersTest, WithoutChangesEveryPageOfTheFormIsShownAndTheSheetLeft
 }
 
 TEST(SettingsAnswersTest, ChangesComeBeforeThePagesAndOkBehindThem) {
-  const Json steps = SettingsAnswers({{"General", "Version:", Kind::kText, "2.0.0"},
-                                      {"Deployment", "Password:", Kind::kEnvironment, "PASS"},
-                                      {"Deployment", "Password:", Kind::kFile, "/run/pass"}},
-                                     false)["answers"][0]["steps"];
+  const Json steps =
+      SettingsAnswers({{"General", "Version:", SettingsChange::Kind::kText, "2.0.0"},
+                       {"Deployment", "Password:", SettingsChange::Kind::kEnvironment, "PASS"},
+                       {"Deployment", "Password:", SettingsChange::Kind::kFile, "/run/pass"}},
+                      false)["answers"][0]["steps"];
 
   ASSERT_EQ(steps.size(), 9u);
   EXPECT_EQ(steps[0], Json::parse(R"({"page": "General", "set": {"Version:": "2.0.0"}})"));
@@ -31,7 +31,8 @@ TEST(SettingsAnswersTest, ChangesComeBeforeThePagesAndOkBehindThem) {
 }
 
 TEST(SettingsAnswersTest, AChangeIsReadUpToTheFirstDotAndTheFirstEqualSignBehindIt) {
-  const SettingsChange change = ParseSettingsChange("General.Version label:=1.0=beta", Kind::kText);
+  const SettingsChange change =
+      ParseSettingsChange("General.Version label:=1.0=beta", SettingsChange::Kind::kText);
 
   EXPECT_EQ(change.page, "General");
   EXPECT_EQ(change.label, "Version label:");
@@ -39,12 +40,12 @@ TEST(SettingsAnswersTest, AChangeIsReadUpToTheFirstDotAndTheFirstEqualSignBehind
 }
 
 TEST(SettingsAnswersTest, AValueMayBeEmpty) {
-  EXPECT_EQ(ParseSettingsChange("General.Version label:=", Kind::kText).value, "");
+  EXPECT_EQ(ParseSettingsChange("General.Version label:=", SettingsChange::Kind::kText).value, "");
 }
 
 TEST(SettingsAnswersTest, ATextOfAnotherFormIsRefused) {
   for (const char* text : {"", "General", "General.", "General=1", ".Version:=1", "General.=1"}) {
-    EXPECT_THROW(ParseSettingsChange(text, Kind::kText), Refusal) << text;
+    EXPECT_THROW(ParseSettingsChange(text, SettingsChange::Kind::kText), Refusal) << text;
   }
 }
 

@@ -5,10 +5,8 @@
 namespace qutav::host {
 namespace {
 
-using Json = nlohmann::json;
-
 std::string TableOf(const std::string& controls) {
-  return SettingsTable({{"title", "Page"}, {"controls", Json::parse(controls)}});
+  return SettingsTable({{"title", "Page"}, {"controls", nlohmann::json::parse(controls)}});
 }
 
 TEST(SettingsTableTest, FieldsStandWithTheirValuesInOneColumn) {

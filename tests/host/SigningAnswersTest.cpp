@@ -6,12 +6,11 @@ namespace qutav::host {
 namespace {
 
 using Json = nlohmann::ordered_json;
-using Kind = PasswordReference::Kind;
 
 TEST(SigningAnswersTest, AndroidSheetGetsCertificateAndReference) {
   SigningMaterial material;
   material.certificate = "/keys/my key.p12";
-  material.password = {Kind::kEnvironment, "MY_PASSWORD"};
+  material.password = {PasswordReference::Kind::kEnvironment, "MY_PASSWORD"};
   EXPECT_EQ(SigningAnswers(material, false, SheetUse::kPublish), Json::parse(R"({"answers": [{
       "to": "sheet", "page": "Deployment",
       "set": {"Certificate:": "/keys/my key.p12", "Password:": {"environment": "MY_PASSWORD"}},
@@ -21,7 +20,7 @@ TEST(SigningAnswersTest, AndroidSheetGetsCertificateAndReference) {
 TEST(SigningAnswersTest, IosSheetGetsTheProfileAsWell) {
   SigningMaterial material;
   material.certificate = "/keys/dist.p12";
-  material.password = {Kind::kFile, "/run/password"};
+  material.password = {PasswordReference::Kind::kFile, "/run/password"};
   material.provisioningProfile = "/keys/store.mobileprovision";
   EXPECT_EQ(SigningAnswers(material, true, SheetUse::kPublish), Json::parse(R"({"answers": [{
       "to": "sheet", "page": "Deployment",
@@ -33,7 +32,7 @@ TEST(SigningAnswersTest, IosSheetGetsTheProfileAsWell) {
 TEST(SigningAnswersTest, MaterialForLaterCommandsIsRememberedAndTheSheetLeft) {
   SigningMaterial material;
   material.certificate = "/keys/my.p12";
-  material.password = {Kind::kEnvironment, "MY_PASSWORD"};
+  material.password = {PasswordReference::Kind::kEnvironment, "MY_PASSWORD"};
   EXPECT_EQ(SigningAnswers(material, false, SheetUse::kRemember), Json::parse(R"({"answers": [{
       "to": "sheet", "page": "Deployment",
       "set": {"Certificate:": "/keys/my.p12", "Password:": {"environment": "MY_PASSWORD"},

@@ -5,19 +5,19 @@
 namespace qutav::host {
 namespace {
 
-using Json = nlohmann::json;
-
 TEST(TranscriptTextTest, MessageShowsTitleIconAndAllLines) {
-  const Json event = {{"event", "message"}, {"title", "Zenvoka Kestrow"},
-                      {"icon", "warning"},  {"text", "Icon file is missing.\r\nicons/a.png\n"},
-                      {"buttons", {"OK"}},  {"answer", "OK"}};
+  const nlohmann::json event = {
+      {"event", "message"}, {"title", "Zenvoka Kestrow"},
+      {"icon", "warning"},  {"text", "Icon file is missing.\r\nicons/a.png\n"},
+      {"buttons", {"OK"}},  {"answer", "OK"}};
   EXPECT_EQ(ReadableEvent(event),
             "Zenvoka Kestrow, warning: Icon file is missing.\n    icons/a.png");
 }
 
 TEST(TranscriptTextTest, QuestionShowsItsAnswer) {
-  const Json event = {{"event", "message"},  {"title", "T"},       {"icon", "warning"},
-                      {"text", "Continue?"}, {"answer", "Cancel"}, {"buttons", {"OK", "Cancel"}}};
+  const nlohmann::json event = {{"event", "message"}, {"title", "T"},
+                                {"icon", "warning"},  {"text", "Continue?"},
+                                {"answer", "Cancel"}, {"buttons", {"OK", "Cancel"}}};
   EXPECT_EQ(ReadableEvent(event), "T, warning: Continue?\n    (answered: Cancel)");
 }
 
@@ -34,7 +34,7 @@ TEST(TranscriptTextTest, MistakesOfTheScriptAreShown) {
 
 TEST(TranscriptTextTest, EventsOfUnexpectedShapeAreQuiet) {
   EXPECT_EQ(ReadableEvent({{"event", 7}}), "");
-  EXPECT_EQ(ReadableEvent(Json::object()), "");
+  EXPECT_EQ(ReadableEvent(nlohmann::json::object()), "");
   EXPECT_EQ(ProgressText({{"event", "tick"}, {"class", "CProgressDlg"}, {"count", "x"}}), "");
 }
 
