@@ -25,7 +25,7 @@ constexpr int kBarHeight = 8;
 constexpr int kButtonWidth = 50;
 constexpr int kButtonHeight = 14;
 constexpr int kButtonPadding = 5;
-constexpr int kFrame = 4;  // above and below the rows of a field, together
+constexpr int kListFrame = 4;  // above and below the rows of a field, together
 constexpr int kCheckListHeading = 14;
 constexpr int kCheckListRow = 10;
 
@@ -210,17 +210,18 @@ Layout Fixed(const Control& field, int width) {
 Layout Number(const Edit& edit) { return Fixed(edit, kNumberWidth); }
 
 Layout Lines(const Edit& edit, int rows) {
-  return FieldOf(edit, {.height = rows * TextWrap::kLineHeight + kFrame});
+  return FieldOf(edit, {.height = rows * TextWrap::kLineHeight + kListFrame});
 }
 
 Layout List(const ListBox& list, int rows, int width) {
   return FieldOf(
-      list, {.width = width, .height = rows * TextWrap::kLineHeight + kFrame, .growsTall = true});
+      list,
+      {.width = width, .height = rows * TextWrap::kLineHeight + kListFrame, .growsTall = true});
 }
 
 Layout List(const CheckList& list, int rows, int width) {
   return FieldOf(list, {.width = width,
-                        .height = kCheckListHeading + rows * kCheckListRow + kFrame,
+                        .height = kCheckListHeading + rows * kCheckListRow + kListFrame,
                         .growsTall = true});
 }
 
