@@ -1,5 +1,8 @@
 #include "framework/windows/ButtonBinders.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "framework/windows/ButtonImages.h"
 #include "framework/windows/WindowScope.h"
 #include "framework/windows/WindowText.h"
@@ -10,10 +13,30 @@ namespace {
 
 constexpr DWORD kTabStop = WS_TABSTOP | WS_GROUP;
 
-// The arrow keys go round among the radio buttons of a group.
+// The arrow keys go round among the radio buttons of a group, from one that begins it to the next.
 DWORD RadioStyle(const RadioButton& button) {
   const bool isFirst = button.group == nullptr || button.group->Buttons().front() == &button;
-  return BS_AUTORADIOBUTTON | BS_MULTILINE | (isFirst ? kTabStop : 0);
+  return BS_AUTORADIOBUTTON | BS_MULTILINE | (isFirst ? WS_GROUP : 0);
+}
+
+// The Tab key leads to one radio button of a group: the checked one, or else the first.
+bool HasTabStop(const RadioButton& button) {
+  if (button.group == nullptr) return true;
+  const std::vector<RadioButton*>& buttons = button.group->Buttons();
+  auto stop = std::find_if(buttons.begin(), buttons.end(),
+                           [](const auto* other) { return other->enabled && other->checked; });
+  if (stop == buttons.end()) {
+    stop = std::find_if(buttons.begin(), buttons.end(),
+                        [](const auto* other) { return other->enabled; });
+  }
+  return stop != buttons.end() && *stop == &button;
+}
+
+// The system sets this style too, but only at a change of the check.
+void SetTabStop(HWND window, bool stops) {
+  const LONG style = GetWindowLongW(window, GWL_STYLE);
+  const LONG wanted = stops ? style | WS_TABSTOP : style & ~WS_TABSTOP;
+  if (wanted != style) SetWindowLongW(window, GWL_STYLE, wanted);
 }
 
 void ShowCheck(HWND window, bool checked) {
@@ -62,6 +85,7 @@ void RadioButtonBinder::OnCommand(int notification) {
 void RadioButtonBinder::Show() {
   SetWindowTextIfOther(Window(), Shown(button_.text));
   ShowCheck(Window(), button_.checked);
+  SetTabStop(Window(), HasTabStop(button_));
 }
 
 ImageButtonBinder::ImageButtonBinder(CStretchBitmapButton& button, const WindowPlace& place)
