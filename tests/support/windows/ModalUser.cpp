@@ -53,8 +53,11 @@ WantedWindow AnyDialog() {
 }
 
 ModalUser::ModalUser(WantedWindow wanted, Action action, int patienceInTicks)
+    : ModalUser(std::move(wanted), Steps{std::move(action)}, patienceInTicks) {}
+
+ModalUser::ModalUser(WantedWindow wanted, Steps steps, int patienceInTicks)
     : wanted_(std::move(wanted)),
-      action_(std::move(action)),
+      steps_(std::move(steps)),
       patience_(patienceInTicks),
       known_(WindowsOfThread()),
       timer_(SetTimer(nullptr, 0, kTickMilliseconds, OnTimer)) {
@@ -64,7 +67,13 @@ ModalUser::ModalUser(WantedWindow wanted, Action action, int patienceInTicks)
 ModalUser::~ModalUser() {
   KillTimer(nullptr, timer_);
   UsersByTimer().erase(timer_);
-  if (!acted_ && !failed_) ADD_FAILURE() << "There never was " << wanted_.description << ".";
+  if (HasActed() || failed_) return;
+  if (window_ == nullptr) {
+    ADD_FAILURE() << "There never was " << wanted_.description << ".";
+  } else {
+    ADD_FAILURE() << "The modal call ended after " << taken_ << " of " << steps_.size()
+                  << " steps in " << wanted_.description << ".";
+  }
 }
 
 void ModalUser::OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
@@ -72,26 +81,32 @@ void ModalUser::OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
   if (found != UsersByTimer().end()) found->second->Tick();
 }
 
+// Timers go on while a step runs.
 void ModalUser::Tick() {
   if (--patience_ < 0) return GiveUp();
-  if (acted_) return;
-  for (const HWND window : NewWindows()) {
-    if (wanted_.fits(window)) return ActOn(window);
-  }
+  if (acting_ || HasActed()) return;
+  if (window_ == nullptr) FindWindow();
+  if (window_ != nullptr && IsWindowVisible(window_) && IsWindowEnabled(window_)) TakeStep();
 }
 
-// Timers go on while the action runs: it counts as run from its beginning.
-void ModalUser::ActOn(HWND window) {
-  acted_ = true;
-  action_(window);
+void ModalUser::FindWindow() {
+  const std::vector<HWND> windows = NewWindows();
+  const auto found = std::find_if(windows.begin(), windows.end(), wanted_.fits);
+  if (found != windows.end()) window_ = *found;
+}
+
+void ModalUser::TakeStep() {
+  acting_ = true;
+  steps_[taken_++](window_);
+  acting_ = false;
 }
 
 // The owner of a dialog is disabled, so what was opened last is closed first.
 void ModalUser::GiveUp() {
   const std::vector<HWND> windows = NewWindows();
   if (!failed_) {
-    ADD_FAILURE() << (acted_ ? "The modal call does not end after the action in "
-                             : "Waited in vain for ")
+    ADD_FAILURE() << (HasActed() ? "The modal call does not end after the action in "
+                                 : "Waited in vain for ")
                   << wanted_.description << "." << Described(windows);
   }
   failed_ = true;

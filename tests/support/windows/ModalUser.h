@@ -1,6 +1,7 @@
 // What a user does in a window while the test is inside the modal call that shows it.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -31,8 +32,11 @@ WantedWindow AnyDialog();
 /// nothing sleeps, and there is no second thread. Of the top-level windows of its thread it knows
 /// only those that came after it. Once it has found its window it runs the action, one time.
 ///
+/// Several actions are steps: each runs at a tick of its own, when what the one before it has
+/// posted or struck has been dealt with, and the window can be used.
+///
 /// - Without such a window the test fails: at the end of this object's life, or when its patience
-///   has run out.
+///   has run out. It fails too when the modal call ends before all steps are taken.
 /// - From then on, and also when the action has been run and this object still lives when the
 ///   patience runs out, it closes whatever enabled window has come after it, one after the other,
 ///   until the modal call returns. The failure lists these windows. So no test hangs.
@@ -43,11 +47,13 @@ WantedWindow AnyDialog();
 class ModalUser {
  public:
   using Action = std::function<void(HWND)>;
+  using Steps = std::vector<Action>;
 
   /// Half a minute: far more than any window takes on a loaded machine.
   static constexpr int kPatience = 1500;
 
   ModalUser(WantedWindow wanted, Action action, int patienceInTicks = kPatience);
+  ModalUser(WantedWindow wanted, Steps steps, int patienceInTicks = kPatience);
   ~ModalUser();
   ModalUser(const ModalUser&) = delete;
   ModalUser& operator=(const ModalUser&) = delete;
@@ -55,14 +61,18 @@ class ModalUser {
  private:
   static void CALLBACK OnTimer(HWND, UINT, UINT_PTR timer, DWORD);
   void Tick();
-  void ActOn(HWND window);
+  void FindWindow();
+  void TakeStep();
   void GiveUp();
+  bool HasActed() const { return taken_ == steps_.size(); }
   std::vector<HWND> NewWindows() const;
 
   WantedWindow wanted_;
-  Action action_;
+  Steps steps_;
   int patience_;
-  bool acted_ = false;
+  HWND window_ = nullptr;
+  std::size_t taken_ = 0;
+  bool acting_ = false;
   bool failed_ = false;
   std::vector<HWND> known_;
   UINT_PTR timer_ = 0;

@@ -1,6 +1,8 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "windows/ModalUser.h"
 
 namespace qutav::test {
@@ -35,6 +37,50 @@ TEST(ModalUserTest, EachOfTwoUsersFindsItsOwnWindow) {
   EXPECT_EQ(ShowBox(L"Outer", MB_OKCANCEL), IDCANCEL);
 
   EXPECT_EQ(answerOfInner, IDOK);
+}
+
+TEST(ModalUserTest, TakesItsStepsOneAfterTheOther) {
+  std::vector<int> steps;
+  const ModalUser user(WindowTitled(u"Awaited"), ModalUser::Steps{[&](HWND) { steps.push_back(1); },
+                                                                  [&](HWND box) {
+                                                                    steps.push_back(2);
+                                                                    Press(box, IDCANCEL);
+                                                                  }});
+
+  EXPECT_EQ(ShowBox(L"Awaited", MB_OKCANCEL), IDCANCEL);
+
+  EXPECT_EQ(steps, (std::vector<int>{1, 2}));
+}
+
+TEST(ModalUserTest, NoStepIsTakenDuringTheOneBeforeIt) {
+  std::vector<int> steps;
+  const ModalUser inner(WindowTitled(u"Inner"), [&](HWND box) {
+    steps.push_back(2);
+    Press(box, IDOK);
+  });
+  const ModalUser outer(WindowTitled(u"Outer"), ModalUser::Steps{[&](HWND box) {
+                                                                   steps.push_back(1);
+                                                                   MessageBoxW(box, L"", L"Inner",
+                                                                               MB_OK);
+                                                                 },
+                                                                 [&](HWND box) {
+                                                                   steps.push_back(3);
+                                                                   Press(box, IDOK);
+                                                                 }});
+
+  ShowBox(L"Outer", MB_OK);
+
+  EXPECT_EQ(steps, (std::vector<int>{1, 2, 3}));
+}
+
+TEST(ModalUserTest, ACallThatEndsBeforeTheLastStepFailsTheTest) {
+  EXPECT_NONFATAL_FAILURE(
+      {
+        const ModalUser user(WindowTitled(u"Brief"),
+                             ModalUser::Steps{[](HWND box) { Press(box, IDOK); }, DoNothing});
+        ShowBox(L"Brief", MB_OK);
+      },
+      "The modal call ended after 1 of 2 steps in a window \"Brief\".");
 }
 
 TEST(ModalUserTest, AWindowThatNeverComesFailsTheTest) {

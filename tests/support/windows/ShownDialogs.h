@@ -1,0 +1,52 @@
+// Models in real windows: the native front end, a host's window for an owner, and a user.
+#pragma once
+
+#include "ServicesTest.h"
+#include "framework/windows/NativeFrontEnd.h"
+#include "windows/ModalUser.h"
+#include "windows/OwnerWindow.h"
+
+namespace qutav::test {
+
+/// The native front end is in force, and a host's window has the focus. A member of a fixture.
+class NativeGround {
+ public:
+  NativeGround() { TheServices().frontEnd = &frontEnd_; }
+
+  HWND Owner() const { return owner_.Window(); }
+  NativeFrontEnd& FrontEnd() { return frontEnd_; }
+
+ private:
+  NativeFrontEnd frontEnd_;
+  OwnerWindow owner_;
+};
+
+/// Tests of dialogs that need no document.
+class ShownDialogTest : public ServicesTest {
+ protected:
+  NativeGround ground;
+};
+
+/// The window that shows a control or a dialog; only while it is shown.
+HWND WindowOf(const Control& control);
+HWND WindowOf(const CDialog& dialog);
+/// The label beside a field; null without one.
+HWND CaptionOf(const Control& control);
+
+/// Shows a dialog to a user who takes these steps, the last of which ends it; its result.
+int Use(CDialog& dialog, const ModalUser::Steps& steps);
+/// The same for a user who closes it after the steps.
+int LookAt(CDialog& dialog, ModalUser::Steps steps);
+int LookAt(CDialog& dialog, const std::function<void()>& look);
+
+/// Closes a window as its close box does.
+void Close(HWND window);
+/// Clicks a button's window.
+void Click(const Control& control);
+
+/// A window's place on the screen.
+RECT PlaceOf(HWND window);
+/// A window's style bits.
+DWORD StyleOf(HWND window);
+
+}  // namespace qutav::test
