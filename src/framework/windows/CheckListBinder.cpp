@@ -1,6 +1,7 @@
 #include "framework/windows/CheckListBinder.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "framework/windows/WindowText.h"
 #include "platform/windows/Wide.h"
@@ -73,11 +74,14 @@ void CheckListBinder::OnNotify(const NMHDR& notification) {
 }
 
 void CheckListBinder::TakeChange(const NMLISTVIEW& change) {
-  const int row = change.iItem;
-  if ((change.uChanged & LVIF_STATE) == 0 || row < 0 || row >= list_.GetCount()) return;
-  RunEvent([&] {
-    list_.SetCheck(row, IsChecked(Window(), row));
-    list_.SetSelected(row, IsSelected(Window(), row));
+  const int index = change.iItem;
+  if ((change.uChanged & LVIF_STATE) == 0 || index < 0 || index >= list_.GetCount()) return;
+  CheckList::Row& row = shown_[static_cast<std::size_t>(index)];
+  row.checked = IsChecked(Window(), index);
+  row.selected = IsSelected(Window(), index);
+  RunEvent([this, index, state = row] {
+    list_.SetCheck(index, state.checked);
+    list_.SetSelected(index, state.selected);
   });
 }
 
@@ -87,29 +91,33 @@ void CheckListBinder::Show() {
 }
 
 bool CheckListBinder::HasSameTexts() const {
-  return std::equal(texts_.begin(), texts_.end(), list_.Rows().begin(), list_.Rows().end(),
-                    [](const auto& text, const auto& row) { return text == row.text; });
+  return std::equal(shown_.begin(), shown_.end(), list_.Rows().begin(), list_.Rows().end(),
+                    [](const auto& shown, const auto& row) { return shown.text == row.text; });
 }
 
 void CheckListBinder::ShowRows() {
   Send(WM_SETREDRAW, FALSE);
   ListView_DeleteAllItems(Window());
-  texts_.clear();
+  shown_.clear();
   for (const CheckList::Row& row : list_.Rows()) {
-    const LVITEMW item = ItemOf(static_cast<int>(texts_.size()), row.text);
+    const LVITEMW item = ItemOf(static_cast<int>(shown_.size()), row.text);
     ListView_InsertItem(Window(), &item);
-    texts_.push_back(row.text);
+    shown_.push_back({row.text});
   }
   Send(WM_SETREDRAW, TRUE);
 }
 
+// Only what the model has changed: the window may have changed other rows, and not told it yet.
 void CheckListBinder::ShowStates() {
   for (int i = 0; i < list_.GetCount(); ++i) {
     const CheckList::Row& row = list_.Rows()[static_cast<std::size_t>(i)];
-    if (IsChecked(Window(), i) != row.checked) {
+    CheckList::Row& shown = shown_[static_cast<std::size_t>(i)];
+    if (std::exchange(shown.checked, row.checked) != row.checked) {
       ListView_SetCheckState(Window(), i, row.checked ? TRUE : FALSE);
     }
-    if (IsSelected(Window(), i) != row.selected) Select(Window(), i, row.selected);
+    if (std::exchange(shown.selected, row.selected) != row.selected) {
+      Select(Window(), i, row.selected);
+    }
   }
 }
 

@@ -1,7 +1,6 @@
 // The window of a check list (`SysListView32`).
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "framework/CheckList.h"
@@ -25,7 +24,7 @@ class CheckListBinder final : public ControlBinder {
   void TakeChange(const NMLISTVIEW& change);
 
   CheckList& list_;
-  std::vector<std::u16string> texts_;
+  std::vector<CheckList::Row> shown_;
 };
 
 }  // namespace qutav
