@@ -165,9 +165,9 @@ void ControlHost::OnCommand(int id, int notification) {
 }
 
 void ControlHost::PreTranslate(const MSG& message) {
-  if (message.message != WM_MOUSEMOVE) return;
+  const bool isOurs = message.hwnd == window_ || IsChild(window_, message.hwnd) != FALSE;
+  if (message.message != WM_MOUSEMOVE || !isOurs) return;
   const ControlBinder* under = BinderOf(message.hwnd);
-  if (under == nullptr && message.hwnd != window_) return;
   dialog_.OnMouseMove(under == nullptr ? nullptr : &under->Model());
   Update();
 }
