@@ -1,5 +1,7 @@
 #include "framework/windows/PictureBinders.h"
 
+#include <tuple>
+
 #include "framework/CDialog.h"
 
 // behind the system's own header
@@ -20,13 +22,21 @@ Gdiplus::RectF InWindow(const Picture& picture, const RECT& window) {
           static_cast<float>(target.Width()) * x, static_cast<float>(target.Height()) * y};
 }
 
+bool IsSame(const Rectangle& a, const Rectangle& b) {
+  return std::tie(a.left, a.top, a.right, a.bottom) == std::tie(b.left, b.top, b.right, b.bottom);
+}
+
 void DrawImage(Gdiplus::Graphics& graphics, const Image& image, const Gdiplus::RectF& target) {
   auto* pixels = const_cast<std::uint32_t*>(image.pixels.data());
   Gdiplus::Bitmap bitmap(image.width, image.height, image.width * 4, PixelFormat32bppARGB,
                          reinterpret_cast<BYTE*>(pixels));
   graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
   graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
-  graphics.DrawImage(&bitmap, target);
+  // Without its neighbours mirrored an edge would be mixed with nothing.
+  Gdiplus::ImageAttributes edges;
+  edges.SetWrapMode(Gdiplus::WrapModeTileFlipXY);
+  graphics.DrawImage(&bitmap, target, 0, 0, static_cast<float>(image.width),
+                     static_cast<float>(image.height), Gdiplus::UnitPixel, &edges);
 }
 
 }  // namespace
@@ -44,10 +54,14 @@ void PictureBinder::OnDrawItem(const DRAWITEMSTRUCT& item) {
   Gdiplus::Graphics(item.hDC).DrawImage(&canvas, 0, 0);
   shownBackground_ = picture_.Background();
   shownImage_ = picture_.Painted();
+  shownTarget_ = picture_.Target();
 }
 
 void PictureBinder::Show() {
-  if (shownBackground_ == picture_.Background() && shownImage_ == picture_.Painted()) return;
+  if (shownBackground_ == picture_.Background() && shownImage_ == picture_.Painted() &&
+      IsSame(shownTarget_, picture_.Target())) {
+    return;
+  }
   InvalidateRect(Window(), nullptr, FALSE);
 }
 

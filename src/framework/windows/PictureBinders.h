@@ -21,6 +21,7 @@ class PictureBinder final : public ControlBinder {
   Picture& picture_;
   std::uint32_t shownBackground_ = 0;
   std::shared_ptr<const Image> shownImage_;
+  Rectangle shownTarget_;
 };
 
 class ProgressBarBinder final : public ControlBinder {
