@@ -1,5 +1,6 @@
 #include "framework/windows/DialogWindow.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "framework/windows/ControlHost.h"
@@ -13,6 +14,18 @@ namespace qutav {
 namespace {
 
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
+
+RECT WorkAreaAt(HWND window) {
+  MONITORINFO info{};
+  info.cbSize = sizeof info;
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &info);
+  return info.rcWork;
+}
+
+// Where a length begins that stands in the middle of another one, within bounds.
+int Centred(int begin, int end, int length, int least, int most) {
+  return std::max(std::min((begin + end - length) / 2, most - length), least);
+}
 
 class DialogWindow {
  public:
@@ -99,13 +112,16 @@ class DialogWindow {
     controls_->Arrange(size);
   }
 
+  // An owner at the edge of the screen, or smaller than the dialog, does not take it off the
+  // screen.
   void CentreOnOwner() const {
     RECT over{};
     GetWindowRect(owner_ != nullptr ? owner_ : GetDesktopWindow(), &over);
     RECT own{};
     GetWindowRect(window_, &own);
-    MoveTo((over.left + over.right - own.right + own.left) / 2,
-           (over.top + over.bottom - own.bottom + own.top) / 2);
+    const RECT area = WorkAreaAt(owner_);
+    MoveTo(Centred(over.left, over.right, own.right - own.left, area.left, area.right),
+           Centred(over.top, over.bottom, own.bottom - own.top, area.top, area.bottom));
   }
 
   void MoveTo(int left, int top) const {
