@@ -25,6 +25,7 @@ class SampleDialog : public ControlsDialog {
     button.text = u"OK";
     button.isDefault = true;
     button.onClick = [this] { OnOK(); };
+    hover.Add(browse);
     picture.width = 40;
     picture.height = 20;
     SetLayout(Column(
@@ -40,11 +41,11 @@ class SampleDialog : public ControlsDialog {
   using CDialog::SetTimer;
 
   void OnTimer(TimerId) override { ++ticks; }
-  void OnMouseMove(const Control* under) override { mouseUnder = under; }
+  void OnMouseMove(const Control* under) override { hover.OnMouseMove(under); }
 
   RadioButton& emulator = AddAfter<RadioButton>(debug, u"Emulator");
   int ticks = 0;
-  const Control* mouseUnder = nullptr;
+  HoverButtons hover;
 };
 
 }  // namespace qutav::test

@@ -5,6 +5,11 @@
 
 namespace qutav::test {
 
+NativeGround::NativeGround() {
+  TheServices().frontEnd = &frontEnd_;
+  SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+}
+
 HWND WindowOf(const Control& control) { return OpenWindows::BinderOf(control)->Window(); }
 
 HWND WindowOf(const CDialog& dialog) { return OpenWindows::HostOf(dialog)->Window(); }

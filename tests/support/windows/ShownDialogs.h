@@ -8,10 +8,11 @@
 
 namespace qutav::test {
 
-/// The native front end is in force, and a host's window has the focus. A member of a fixture.
+/// The native front end is in force, a host's window has the focus, and the mouse is out of the
+/// way. A member of a fixture.
 class NativeGround {
  public:
-  NativeGround() { TheServices().frontEnd = &frontEnd_; }
+  NativeGround();
 
   HWND Owner() const { return owner_.Window(); }
   NativeFrontEnd& FrontEnd() { return frontEnd_; }
