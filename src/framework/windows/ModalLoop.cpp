@@ -37,10 +37,14 @@ HWND OwnerFor(WindowHandle parent) {
 void RunModalLoop(HWND window, CDialog& dialog, const KeyFilter& isDialogKey) {
   while (!dialog.HasEnded()) {
     MSG message{};
-    const BOOL got = GetMessageW(&message, nullptr, 0, 0);
-    if (got <= 0 || IsWindow(window) == FALSE) Cancel(dialog);
+    // A window that is gone may have been the last that had anything to say.
+    const BOOL got = IsWindow(window) != FALSE ? GetMessageW(&message, nullptr, 0, 0) : -1;
+    if (got > 0) {
+      Deliver(message, isDialogKey);
+    } else {
+      Cancel(dialog);
+    }
     if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));
-    if (got > 0) Deliver(message, isDialogKey);
   }
 }
 
