@@ -128,9 +128,10 @@ class DialogWindow {
     SetWindowPos(window_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
 
+  // The focus goes the way of the Tab key: it selects a field's text, and Enter presses its button.
   void Show() const {
     ShowWindow(window_, SW_SHOW);
-    SetFocus(FirstFocus());
+    SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(FirstFocus()), TRUE);
     UpdateWindow(window_);
   }
 
