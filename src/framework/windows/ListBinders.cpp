@@ -39,7 +39,9 @@ void ComboBoxBinder::OnCommand(int notification) {
       selection_ = static_cast<int>(Send(CB_GETCURSEL));
       Update();
       break;
-    case CBN_EDITCHANGE:
+    case CBN_EDITCHANGE:  // the choice goes from the model; taking it from the window moves the
+                          // caret
+      selection_ = -1;
       RunEvent([&] { combo_.Type(WindowText(Window())); });
       break;
     default:
