@@ -74,7 +74,7 @@ class DialogWindow {
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
       SetWindowLongPtrW(window, DWLP_USER, lParam);
-      return TRUE;
+      return FALSE;  // or the dialog would be the active window before it is shown
     }
     auto* self = reinterpret_cast<DialogWindow*>(GetWindowLongPtrW(window, DWLP_USER));
     return self != nullptr && self->controls_ ? self->OnMessage(message, wParam, lParam) : FALSE;
@@ -135,14 +135,12 @@ class DialogWindow {
     UpdateWindow(window_);
   }
 
-  // The first control; but a dialog that has only buttons begins on its default one.
+  // A dialog of buttons alone begins at its default one.
   HWND FirstFocus() const {
-    const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);
-    const LRESULT byDefault = SendMessageW(window_, DM_GETDEFID, 0, 0);
-    const bool isButton = (SendMessageW(first, WM_GETDLGCODE, 0, 0) &
-                           (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
-    if (!isButton || HIWORD(byDefault) != DC_HASDEFID) return first;
-    return GetDlgItem(window_, LOWORD(byDefault));
+    HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);
+    HWND byEnter = GetDlgItem(window_, LOWORD(SendMessageW(window_, DM_GETDEFID, 0, 0)));
+    const bool isButton = (SendMessageW(first, WM_GETDLGCODE, 0, 0) & DLGC_UNDEFPUSHBUTTON) != 0;
+    return isButton && byEnter != nullptr ? byEnter : first;
   }
 
   CDialog& dialog_;
