@@ -289,6 +289,8 @@ void FakeImages::Put(const std::u16string& path, int width, int height) {
   auto image = std::make_shared<Image>();
   image->width = width;
   image->height = height;
+  image->pixels.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
+                       kFakePixel);
   images_[path] = std::move(image);
 }
 

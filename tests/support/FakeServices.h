@@ -168,6 +168,9 @@ class FakeNetworkTables : public NetworkTables {
   NetworkTable<NetworkAdapter> adapters;
 };
 
+/// The one colour of fake images.
+inline constexpr std::uint32_t kFakePixel = 0xFF336699;
+
 /// Images by path, as a test puts them there; a file that is none has no image.
 class FakeImages : public Images {
  public:

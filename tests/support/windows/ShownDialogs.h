@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ServicesTest.h"
+#include "framework/windows/ControlBinder.h"
 #include "framework/windows/NativeFrontEnd.h"
 #include "windows/ModalUser.h"
 #include "windows/OwnerWindow.h"

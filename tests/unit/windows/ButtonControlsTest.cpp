@@ -1,5 +1,4 @@
 // Buttons, check boxes and radio buttons in their windows.
-#include "framework/windows/ControlBinder.h"
 #include "windows/SampleDialog.h"
 #include "windows/ShownDialogs.h"
 #include "windows/UserInput.h"

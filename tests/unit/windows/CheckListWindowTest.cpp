@@ -1,5 +1,4 @@
 // A check list in its window.
-#include "framework/windows/ControlBinder.h"
 #include "windows/SampleDialog.h"
 #include "windows/ShownDialogs.h"
 #include "windows/UserInput.h"

@@ -1,7 +1,6 @@
 // A dialog's window: what it does to its owner, and how it ends.
 #include <stdexcept>
 
-#include "framework/windows/ControlBinder.h"
 #include "settings_ui/SignaturePasswordDlg.h"
 #include "windows/SampleDialog.h"
 #include "windows/ShownDialogs.h"

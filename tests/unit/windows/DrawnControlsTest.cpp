@@ -3,7 +3,6 @@
 #include <utility>
 #include <vector>
 
-#include "framework/windows/ControlBinder.h"
 #include "windows/SampleDialog.h"
 #include "windows/ShownDialogs.h"
 #include "windows/UserInput.h"

@@ -1,5 +1,4 @@
 // Labels, frames and fields in their windows.
-#include "framework/windows/ControlBinder.h"
 #include "windows/SampleDialog.h"
 #include "windows/ShownDialogs.h"
 #include "windows/UserInput.h"
