@@ -11,6 +11,22 @@ import sys
 
 SCREEN = "1280x1024x24"
 
+EAST_ASIAN = "WenQuanYi Micro Hei"
+
+# Wine's registry: key, name, type, value.
+SETTINGS = [
+    # No window manager is there to wait for, two seconds for each window.
+    (r"HKCU\Software\Wine\X11 Driver", "Managed", "REG_SZ", "N"),
+    # Debian has Wine's own fonts, that of dialogs among them, where its Wine does not look.
+    (r"HKCU\Software\Wine\Fonts", "Path", "REG_SZ", r"Z:\usr\share\wine\fonts"),
+    # What that lacks, it takes from SimSun; a field asks for the other one by name.
+    (r"HKCU\Software\Wine\Fonts\Replacements", "SimSun", "REG_SZ", EAST_ASIAN),
+    (r"HKCU\Software\Wine\Fonts\Replacements", "SimSun-18030", "REG_SZ", EAST_ASIAN),
+    # Titles are bold, and lack the same.
+    (r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontLink\SystemLink", "Tahoma Bold",
+     "REG_MULTI_SZ", f"wqy-microhei.ttc,{EAST_ASIAN}"),
+]
+
 
 def refuse(why):
     sys.exit(f"The Windows tests cannot run: {why}")
@@ -52,9 +68,9 @@ def wine(prefix, environment):
                                 check=False, capture_output=True, text=True, timeout=60)
         if booted.returncode != 0 or answer.stdout.strip() != "ready":
             refuse(f"Wine does not start (wineboot gave {booted.returncode}): {answer.stderr}")
-        # No window manager is there to wait for, two seconds for each window.
-        subprocess.run(["wine", "reg", "add", r"HKCU\Software\Wine\X11 Driver", "/v", "Managed",
-                        "/d", "N", "/f"], check=True, timeout=60, **quiet)
+        for key, name, kind, value in SETTINGS:
+            subprocess.run(["wine", "reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f"],
+                           check=True, timeout=60, **quiet)
         yield
     except subprocess.TimeoutExpired as late:
         refuse(f"Wine does not answer: {late}")
