@@ -176,7 +176,7 @@ TEST_F(LayoutTest, AWrappedTextNeedsLessHeightOnceThereIsMoreWidth) {
   Show(Column({Wrapped(box, 64), List(list, 2, 78)}), 100);
 
   EXPECT_THAT(Place(box), ElementsAre(7, 7, 125, 17));
-  EXPECT_THAT(Place(list), ElementsAre(7, 21, 185, 47));
+  EXPECT_THAT(Place(list), ElementsAre(7, 21, 185, 49));
 }
 
 TEST_F(LayoutTest, AListTakesTheHeightThatNobodyNeeds) {

@@ -17,6 +17,7 @@ namespace {
 // Dialog units.
 constexpr int kChoiceHeight = 10;
 constexpr int kChoiceMark = 14;   // the box or circle, and the gap behind it
+constexpr int kFocusFrame = 2;    // above and below the text that it surrounds, together
 constexpr int kFieldHeight = 12;  // that of a combo box, which the system gives by the font
 constexpr int kFieldWidth = 100;
 constexpr int kNumberWidth = 32;
@@ -63,7 +64,8 @@ class ChoicePart final : public LayoutPart {
     return Mark(measure) + text_.Width(measure);
   }
   int Height(const LayoutMeasure& measure, int width) const override {
-    return std::max(LineHeight(measure), text_.Height(measure, width - Mark(measure)));
+    return std::max(LineHeight(measure),
+                    text_.Height(measure, width - Mark(measure)) + measure.Vertical(kFocusFrame));
   }
   int LineHeight(const LayoutMeasure& measure) const override {
     return measure.Vertical(kChoiceHeight);
