@@ -43,7 +43,7 @@ std::u16string MemoryFiles::Normal(const std::u16string& path) const {
   std::replace(forward.begin(), forward.end(), u'\\', u'/');
   if (!IsRooted(forward)) forward = currentFolder + u"/" + forward;
   const auto normal = std::filesystem::path(ToUtf8(forward)).lexically_normal();
-  std::u16string text = FromUtf8(normal.string());
+  std::u16string text = FromUtf8(normal.generic_string());
   while (text.size() > 1 && text.back() == u'/') text.pop_back();
   return text;
 }
