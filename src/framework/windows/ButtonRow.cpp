@@ -38,11 +38,11 @@ void FitButtons(HWND window, std::vector<HWND> buttons) {
   for (HWND button : buttons) row.push_back(Measured(window, button));
   std::sort(row.begin(), row.end(),
             [](const auto& a, const auto& b) { return a.place.left < b.place.left; });
+  const LONG gap = row[1].place.left - row[0].place.right;
   LONG right = row.back().place.right;
-  for (std::size_t i = row.size(); i-- > 0;) {
-    const LONG gap = i == 0 ? 0 : row[i].place.left - row[i - 1].place.right;
-    row[i].place = {right - row[i].width, row[i].place.top, right, row[i].place.bottom};
-    right = row[i].place.left - gap;
+  for (auto button = row.rbegin(); button != row.rend(); ++button) {
+    button->place = {right - button->width, button->place.top, right, button->place.bottom};
+    right = button->place.left - gap;
   }
   for (const RowButton& button : row) {
     SetWindowPos(button.window, nullptr, button.place.left, button.place.top, button.width,
