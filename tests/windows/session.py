@@ -1,15 +1,15 @@
 #!/usr/bin/python3
-"""Runs a command with a display and a Wine prefix of its own, and ends both afterwards.
+"""Runs a command with a display and a Wine prefix of its own, and ends both afterwards."""
 
-usage: session.py WINE_PREFIX COMMAND [ARGUMENT...]"""
-
+import argparse
 import contextlib
 import os
 import shutil
 import subprocess
 import sys
 
-SCREEN = "1280x1024x24"
+USUAL_DPI = 96
+SCREEN = (1280, 1024)  # at the usual resolution
 
 EAST_ASIAN = "WenQuanYi Micro Hei"
 
@@ -33,13 +33,14 @@ def refuse(why):
 
 
 @contextlib.contextmanager
-def display():
+def display(dpi):
     """An X server on a display that it finds free; its name."""
     if shutil.which("Xvfb") is None:
         refuse("Xvfb is not installed")
+    screen = "{}x{}x24".format(*(pixels * dpi // USUAL_DPI for pixels in SCREEN))
     read_end, write_end = os.pipe()
     with subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", SCREEN, "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", screen, "-nolisten", "tcp"],
             pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as server:
         os.close(write_end)
         with os.fdopen(read_end) as stream:
@@ -53,7 +54,7 @@ def display():
 
 
 @contextlib.contextmanager
-def wine(prefix, environment):
+def wine(prefix, environment, dpi):
     """A Wine prefix, made at the first time."""
     if shutil.which("wine") is None:
         refuse("Wine is not installed")
@@ -68,7 +69,8 @@ def wine(prefix, environment):
                                 check=False, capture_output=True, text=True, timeout=60)
         if booted.returncode != 0 or answer.stdout.strip() != "ready":
             refuse(f"Wine does not start (wineboot gave {booted.returncode}): {answer.stderr}")
-        for key, name, kind, value in SETTINGS:
+        resolution = (r"HKCU\Control Panel\Desktop", "LogPixels", "REG_DWORD", str(dpi))
+        for key, name, kind, value in [*SETTINGS, resolution]:
             subprocess.run(["wine", "reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f"],
                            check=True, timeout=60, **quiet)
         yield
@@ -80,19 +82,29 @@ def wine(prefix, environment):
             keeper.communicate()
 
 
-def main(prefix, command):
-    prefix = os.path.abspath(prefix)
+def main(arguments):
+    prefix = os.path.abspath(arguments.prefix)
     # In any other character set Wine would lose what names of files hold.
     environment = dict(os.environ, WINEPREFIX=prefix, WINEDEBUG="-all", LC_ALL="C.UTF-8",
-                       WINEDLLOVERRIDES="mscoree,mshtml=")
-    with display() as name:
+                       WINEDLLOVERRIDES="mscoree,mshtml=", QUTAV_TEST_DPI=str(arguments.dpi))
+    with display(arguments.dpi) as name:
         environment["DISPLAY"] = name
-        with wine(prefix, environment):
-            return subprocess.run(command, env=environment, check=False,
+        with wine(prefix, environment, arguments.dpi):
+            return subprocess.run(arguments.command, env=environment, check=False,
                                   stdin=subprocess.DEVNULL).returncode
 
 
+def parse():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--dpi", type=int, default=USUAL_DPI,
+                        help="dots per inch of the screen; each resolution wants its own prefix")
+    parser.add_argument("prefix", help="the folder of the Wine prefix")
+    parser.add_argument("command", nargs=argparse.REMAINDER)
+    arguments = parser.parse_args()
+    if not arguments.command:
+        parser.error("no command")
+    return arguments
+
+
 if __name__ == "__main__":
-    if len(sys.argv) < 3:
-        sys.exit(__doc__)
-    sys.exit(main(sys.argv[1], sys.argv[2:]))
+    sys.exit(main(parse()))

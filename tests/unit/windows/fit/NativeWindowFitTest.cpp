@@ -1,0 +1,104 @@
+// The settings sheet in the system's own property sheet, in every language: the area that the
+// system gives to a page holds it, and the sheet's tabs and buttons hold their texts.
+#include <cstdlib>
+
+#include "AllDialogs.h"
+#include "SheetTest.h"
+#include "framework/windows/DialogFont.h"
+#include "framework/windows/NativeFrontEnd.h"
+#include "win/InterfaceLanguage.h"
+#include "windows/ModalUser.h"
+#include "windows/WindowFit.h"
+
+// behind the system's own header
+#include <commctrl.h>
+// behind commctrl.h
+#include <prsht.h>
+
+namespace qutav::test {
+namespace {
+
+using ::testing::IsEmpty;
+
+// Dialog units.
+constexpr int kMargin = 7;
+constexpr int kSheetMargin = 2;
+
+unsigned DpiOf(HWND window) { return GetDpiForWindow(window); }
+
+Size Margin(HWND window, int units) {
+  const DialogFont font(DpiOf(window));
+  const FontMeasure measure(font.Handle(), DpiOf(window));
+  return {measure.Horizontal(units), measure.Vertical(units)};
+}
+
+std::vector<std::string> FaultsOfDialog(HWND dialog) {
+  return FaultsOf(dialog, DpiOf(dialog), Margin(dialog, kMargin));
+}
+
+std::vector<std::string> FaultsOfSheet(HWND sheet) {
+  return FaultsOf(sheet, DpiOf(sheet), Margin(sheet, kSheetMargin));
+}
+
+class NativeWindowFitTest : public SheetTest,
+                            public ::testing::WithParamInterface<const char16_t*> {
+ protected:
+  NativeWindowFitTest() {
+    host.languageCode = GetParam();
+    EnterInterfaceLanguage(call);
+    TheServices().frontEnd = &native;
+  }
+
+  // Looks at every page of the sheet.
+  void ExpectNoFaults(int pages) {
+    const ModalUser user(AnyDialog(), [&](HWND sheet) {
+      EXPECT_EQ(TabCtrl_GetItemCount(PropSheet_GetTabControl(sheet)), pages);
+      EXPECT_THAT(FaultsOfSheet(sheet), IsEmpty());
+      for (int i = 0; i < pages; ++i) {
+        PropSheet_SetCurSel(sheet, nullptr, i);
+        EXPECT_THAT(FaultsOfDialog(PropSheet_GetCurrentPageHwnd(sheet)), IsEmpty()) << i;
+      }
+      Press(sheet, IDCANCEL);
+    });
+    EXPECT_TRUE(OpenSettingsSheet(nullptr, 0));
+  }
+
+  HostCallContext call;
+  NativeFrontEnd native;
+};
+
+TEST(NativeWindowScreenTest, HasTheResolutionOfItsSession) {
+  const char* dpi = std::getenv("QUTAV_TEST_DPI");
+
+  ASSERT_NE(dpi, nullptr);
+  EXPECT_EQ(std::to_string(GetDpiForSystem()), dpi);
+}
+
+TEST_P(NativeWindowFitTest, NothingIsCutInADialog) {
+  for (const auto& dialog : DialogsAndPages()) {
+    if (dynamic_cast<const CPropertyPage*>(dialog.get()) != nullptr) continue;
+    const ModalUser user(AnyDialog(), [&](HWND window) {
+      EXPECT_THAT(FaultsOfDialog(window), IsEmpty()) << ToUtf8(dialog->ClassName());
+      PostMessageW(window, WM_CLOSE, 0, 0);
+    });
+    dialog->DoModal();
+  }
+}
+
+TEST_P(NativeWindowFitTest, NothingIsCutOnTheAndroidForm) { ExpectNoFaults(5); }
+
+TEST_P(NativeWindowFitTest, NothingIsCutOnTheIosForm) {
+  UseIosForm();
+
+  ExpectNoFaults(4);
+}
+
+INSTANTIATE_TEST_SUITE_P(InEveryLanguage, NativeWindowFitTest,
+                         ::testing::Values(u"cs_CZ", u"de_DE", u"en_US", u"es_ES", u"fr_FR",
+                                           u"it_IT", u"ja_JP", u"ko_KR", u"nl_NL", u"pl_PL",
+                                           u"pt_BR", u"ru_RU", u"su_DO", u"sv_SE", u"tr_TR",
+                                           u"zh_CN", u"zh_TW"),
+                         [](const auto& code) { return ToUtf8(code.param); });
+
+}  // namespace
+}  // namespace qutav::test
