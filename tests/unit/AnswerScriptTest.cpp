@@ -136,7 +136,8 @@ TEST(AnswerScriptTest, ButtonsAreOneOrAList) {
 TEST(AnswerScriptTest, ValuesOfAnAnswerAreRead) {
   AnswerScript script = Script(
       R"({"to": "sheet", "page": "P", "select": {"a": "1"}, "set": {"c": "3"}, "show": true,
-          "after": 4, "choose": "x.png", "steps": [{"press": "OK"}]})");
+          "picture": "p.png", "after": 4, "choose": "x.png",
+          "steps": [{"press": "OK", "picture": "q.png"}]})");
 
   const ScriptAnswer answer = *script.Take({"sheet", "", "", ""});
 
@@ -145,7 +146,9 @@ TEST(AnswerScriptTest, ValuesOfAnAnswerAreRead) {
   EXPECT_THAT(answer.steps[0].select, ElementsAre(Pair("a", "1")));
   EXPECT_THAT(answer.steps[0].set, ElementsAre(Pair("c", "3")));
   EXPECT_TRUE(answer.steps[0].show);
+  EXPECT_EQ(answer.steps[0].picture, "p.png");
   EXPECT_THAT(answer.steps[1].press, ElementsAre("OK"));
+  EXPECT_EQ(answer.steps[1].picture, "q.png");
   EXPECT_EQ(answer.choose, "x.png");
   EXPECT_EQ(answer.after, 4u);
 }
@@ -236,7 +239,7 @@ TEST(AnswerScriptTest, AValueOfAnotherKindIsAMistake) {
 
 TEST(AnswerScriptTest, AMemberOfAnotherKindIsAMistake) {
   for (const char* member : {R"("after": "two")", R"("repeat": "yes")", R"("press": 3)",
-                             R"("title": true)", R"("class": [])"}) {
+                             R"("title": true)", R"("class": [])", R"("picture": true)"}) {
     EXPECT_NE(MistakeInAnswer(R"({"to": "dialog", )" + std::string(member) + "}"), "") << member;
   }
 }

@@ -10,6 +10,7 @@ namespace {
 using nlohmann::json;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::SizeIs;
 
 class StepPlayerTest : public ScriptedTest {
  protected:
@@ -270,6 +271,25 @@ TEST_F(StepPlayerTest, AListOfControlsThatIsNotAskedForIsNotWritten) {
   RunDialog(R"("press": "OK", "show": false)");
 
   EXPECT_THAT(Events("controls"), IsEmpty());
+}
+
+TEST_F(StepPlayerTest, APictureIsAMistakeWhereThereIsNoWindow) {
+  EXPECT_EQ(RunDialog(R"("picture": "dialog.png", "steps": [{"press": "OK"}])"), kIdCancel);
+
+  EXPECT_THAT(Mistakes(), ElementsAre("CControls: no picture can be written to dialog.png"));
+}
+
+TEST_F(StepPlayerTest, APictureIsTakenLast) {
+  RunDialog(R"("picture": "dialog.png", "press": "Browse", "show": true)");
+
+  EXPECT_THAT(Events("controls"), SizeIs(1));
+  EXPECT_THAT(Mistakes(), SizeIs(1));
+}
+
+TEST_F(StepPlayerTest, ADialogThatHasEndedIsNotPictured) {
+  EXPECT_EQ(RunDialog(R"("picture": "dialog.png", "press": "OK")"), kIdOk);
+
+  EXPECT_THAT(Mistakes(), IsEmpty());
 }
 
 TEST_F(StepPlayerTest, ThePageInFrontIsWrittenWhenTheSheetOpens) {
