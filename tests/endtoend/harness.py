@@ -196,6 +196,32 @@ class PublishTest(unittest.TestCase):
         self.assertEqual(list(self.game.rglob("*.apk")), [])
 
 
+class SettingsTest(PublishTest):
+    """Opens the sheet through the script function that the host calls."""
+
+    def open_sheet(self, *answers):
+        script = self.folder / "script.json"
+        script.write_text(json.dumps({"answers": answers}), encoding="utf-8")
+        arguments = ", ".join(json.dumps(text) for text in (
+            self.document.as_uri(), (self.game / "Game.qmv").as_uri(), "26.0"))
+        environment = dict(self.environment, QUTAV_SCRIPT=str(script),
+                           QUTAV_TRANSCRIPT=str(self.transcript))
+        result = run(BUILD / "qutav", "evaluate", self.document,
+                     f"OpenSettingDialog({arguments})", env=environment, timeout=120)
+        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        mistakes = [event for event in self.events() if event["event"] == "script-error"]
+        self.assertEqual(mistakes, [])
+        return result
+
+    def shown(self, label):
+        """The control of this label in what the script has shown last."""
+        shown = [event for event in self.events() if event["event"] == "controls"][-1]
+        return next(control for control in shown["controls"] if control["label"] == label)
+
+    def descriptor(self):
+        return (self.game / "Game-app.xml").read_text(encoding="utf-8")
+
+
 class DeviceTest(PublishTest):
     """An adb server and devices of the test's own."""
 

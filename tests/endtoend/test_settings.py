@@ -1,66 +1,9 @@
 """The settings sheet, used by a script: what its pages do with real files, tools and signatures."""
 
 import json
-import shutil
 import unittest
 
-from harness import BUILD, PASSWORD, SAMPLE, PublishTest, hashes, run
-
-COPY_QUESTION = (
-    "The icon must be copied to a folder relative to the root content folder so that it can be "
-    "published. Do you want to proceed?")
-WRONG_DIMENSIONS = "One of the specified icons does not have the correct dimensions."
-
-
-class SettingsTest(PublishTest):
-    """Opens the sheet through the script function that the host calls."""
-
-    def open_sheet(self, *answers):
-        script = self.folder / "script.json"
-        script.write_text(json.dumps({"answers": answers}), encoding="utf-8")
-        arguments = ", ".join(json.dumps(text) for text in (
-            self.document.as_uri(), (self.game / "Game.qmv").as_uri(), "26.0"))
-        environment = dict(self.environment, QUTAV_SCRIPT=str(script),
-                           QUTAV_TRANSCRIPT=str(self.transcript))
-        result = run(BUILD / "qutav", "evaluate", self.document,
-                     f"OpenSettingDialog({arguments})", env=environment, timeout=120)
-        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
-        mistakes = [event for event in self.events() if event["event"] == "script-error"]
-        self.assertEqual(mistakes, [])
-        return result
-
-    def shown(self, label):
-        """The control of this label in what the script has shown last."""
-        shown = [event for event in self.events() if event["event"] == "controls"][-1]
-        return next(control for control in shown["controls"] if control["label"] == label)
-
-    def descriptor(self):
-        return (self.game / "Game-app.xml").read_text(encoding="utf-8")
-
-
-class Certificate(SettingsTest):
-    def test_one_made_from_the_deployment_page_signs_the_package_of_the_same_sheet(self):
-        made = self.folder / "made"
-        secret = {"environment": "SAMPLE_PASSWORD"}
-
-        self.open_sheet(
-            {"to": "sheet", "page": "Deployment", "press": "Create...", "steps": [
-                {"show": True},
-                {"set": {"Password:": secret}, "press": ["Publish", "Cancel"]}]},
-            {"to": "dialog", "class": "CSelfSignDlg", "press": "OK", "set": {
-                "Publisher name:": "Evening Publisher", "Organization unit:": "Puzzles",
-                "Organization name:": "Evening Studio", "Country:": "DE", "Password:": secret,
-                "Confirm password:": secret, "Save as:": str(made)}})
-
-        self.assertEqual(self.messages(), ["Self-signed certificate has been created.",
-                                           "APK file has been created."])
-        self.assertTrue(made.with_suffix(".p12").is_file())
-        self.assertEqual(self.shown("Certificate:")["text"].replace("\\", "/"), f"{made}.p12")
-        verified = run("apksigner", "verify", "--min-sdk-version", "21", "--print-certs",
-                       self.game / "Game.apk")
-        self.assertEqual(verified.returncode, 0, verified.stdout + verified.stderr)
-        self.assertRegex(verified.stdout, "CN=Evening Publisher, OU=Puzzles, O=Evening Studio, C=DE")
-        self.assertNotIn(PASSWORD, self.transcript.read_text(encoding="utf-8"))
+from harness import PASSWORD, SettingsTest, hashes, run
 
 
 class ProvisioningProfile(SettingsTest):
@@ -141,66 +84,6 @@ class ProvisioningProfile(SettingsTest):
 
         self.assertEqual(self.application_id_after(profile), "com.example.game")
         self.assertEqual(self.messages(), ["Unknown error.\n\ninvalid string position"])
-
-
-class Icons(SettingsTest):
-    """The page opens on the size 36x36."""
-
-    def setUp(self):
-        super().setUp()
-        # The first sheet over a document drops its icons: they may be of another target's sizes.
-        self.set_data("com.tav.oldTargetPlatform", "Android")
-
-    def choose_icon(self, file, *answers):
-        """Browses to a file and leaves the sheet by OK."""
-        self.open_sheet(
-            {"to": "sheet", "page": "Icons", "press": "Browse icon",
-             "steps": [{"show": True}, {"press": "OK"}]},
-            {"to": "file", "contains": "*.png", "choose": str(file)}, *answers)
-
-    def assert_icon(self, path):
-        self.assertEqual(self.shown("Icon path:")["text"], path)
-        self.assertIn(f"<image36x36>{path}</image36x36>", self.descriptor())
-
-    def outside(self, sample_name):
-        file = self.folder / "evening.png"
-        shutil.copy(SAMPLE / "icons" / sample_name, file)
-        return file
-
-    def test_one_from_elsewhere_is_copied_once_the_user_agrees(self):
-        file = self.outside("icon36x36.png")
-
-        self.choose_icon(file, {"to": "message", "contains": "must be copied", "press": "OK"})
-
-        self.assertEqual(self.messages(), [COPY_QUESTION])
-        self.assert_icon("AppIconsForPublish/evening.png")
-        copy = self.game / "AppIconsForPublish" / "evening.png"
-        self.assertEqual(copy.read_bytes(), file.read_bytes())
-        self.assertIn("painted", self.shown("Preview:"))
-
-    def test_one_from_elsewhere_is_not_taken_when_the_user_declines(self):
-        file = self.outside("icon36x36.png")
-
-        self.choose_icon(file, {"to": "message", "contains": "must be copied", "press": "Cancel"})
-
-        self.assertEqual(self.messages(), [COPY_QUESTION])
-        self.assert_icon("icons/icon36x36.png")
-        self.assertFalse((self.game / "AppIconsForPublish").exists())
-
-    def test_one_of_another_size_is_refused(self):
-        self.choose_icon(self.game / "icons" / "icon48x48.png")
-
-        self.assertEqual(self.messages(), [WRONG_DIMENSIONS])
-        self.assert_icon("icons/icon36x36.png")
-
-    def test_a_text_that_is_called_an_image_is_refused(self):
-        file = self.folder / "evening.png"
-        file.write_text("no image", encoding="utf-8")
-
-        self.choose_icon(file)
-
-        self.assertEqual(self.messages(), [WRONG_DIMENSIONS])
-        self.assert_icon("icons/icon36x36.png")
 
 
 class SettingsCommand(SettingsTest):
