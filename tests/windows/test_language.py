@@ -7,7 +7,7 @@ import sys
 import tempfile
 import unittest
 
-from test_publish import BUILD, SAMPLE, TESTS, run, windows_path
+from product import BUILD, SAMPLE, TESTS, run, windows_path
 
 sys.path.insert(0, str(TESTS.parent / "languages"))
 from shown_texts import TEXTS  # pylint: disable=wrong-import-position

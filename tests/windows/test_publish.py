@@ -2,49 +2,22 @@
 
 import json
 import os
-import pathlib
 import shutil
-import subprocess
-import tempfile
 import unittest
 
-BUILD = pathlib.Path(os.environ["QUTAV_BUILD"])
-TESTS = pathlib.Path(__file__).resolve().parent
-SAMPLE = TESTS.parents[1] / "samples" / "Game"
-PASSWORD = "practice-only"
-PRODUCT = pathlib.Path(os.environ["WINEPREFIX"],
-                       "drive_c/Program Files/Common Files/Zenvoka/Zenvoka Kestrow 2020")
-
-
-def run(*command, **options):
-    return subprocess.run([str(part) for part in command], capture_output=True, text=True,
-                          check=False, stdin=subprocess.DEVNULL, timeout=240, **options)
-
-
-def windows_path(path):
-    return "Z:" + str(path).replace("/", "\\")
+from product import (BUILD, PASSWORD, SAMPLE, TESTS, install_adb, install_java, make_certificate, run,
+                     temporary_folder, windows_path)
 
 
 class Publish(unittest.TestCase):
     def setUp(self):
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="qutav windows Träume-"))
-        self.addCleanup(shutil.rmtree, self.folder)
+        self.folder = temporary_folder(self.addCleanup, "qutav windows Träume-")
         self.game = self.folder / "Game"
         shutil.copytree(SAMPLE, self.game)
-        bin_folder = PRODUCT / "jre" / "bin"
-        bin_folder.mkdir(parents=True, exist_ok=True)
-        shutil.copy(BUILD / "tests" / "windows" / "java.exe", bin_folder)
-        self.addCleanup(shutil.rmtree, PRODUCT.parent)
-        # The library looks for devices after a publish; this one finds none.
-        adb = BUILD / "TAV26.0" / "lib" / "android" / "bin" / "adb.exe"
-        adb.parent.mkdir(parents=True, exist_ok=True)
-        shutil.copy(BUILD / "tests" / "windows" / "fake_tool.exe", adb)
-        self.addCleanup(adb.unlink)
+        install_java(self.addCleanup)
+        install_adb(self.addCleanup)
         self.keystore = self.folder / "sample.p12"
-        made = run("java", "-jar", BUILD / "TAV26.0/lib/KOB.jar", "-certificate",
-                   "-cn", "Sample Publisher", "-ou", "Games", "-o", "Sample Studio", "-c", "US",
-                   "-validityPeriod", "25", "2048-RSA", self.keystore, PASSWORD)
-        self.assertEqual(made.returncode, 0, made.stdout + made.stderr)
+        make_certificate(self.keystore)
 
     def publish(self):
         environment = dict(os.environ, STORE_PASSWORD=PASSWORD,
