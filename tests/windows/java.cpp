@@ -2,7 +2,8 @@
 //
 // Wine starts a program of the machine, but tells neither its end nor its output. So both come by
 // file: hand_over.py, whose path stands in QUTAV_HAND_OVER, takes the arguments from a folder and
-// leaves there what Java printed and how it ended.
+// leaves there what Java printed and how it ended. The file "alive" goes when this program ends, in
+// whatever way; Java then has to end as well.
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -13,6 +14,7 @@
 
 #include "platform/Environment.h"
 #include "platform/Text.h"
+#include "platform/windows/Handle.h"
 #include "platform/windows/System.h"
 #include "platform/windows/Wide.h"
 // behind the system's own header
@@ -40,6 +42,12 @@ void KeepArguments(const fs::path& file) {
   wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
   for (int i = 1; i < count; ++i) kept << qutav::ToUtf8(qutav::FromWide(arguments[i])) << '\n';
   LocalFree(arguments);
+}
+
+qutav::Handle MakeSignOfLife(const fs::path& file) {
+  return qutav::Handle(CreateFileW(file.c_str(), GENERIC_WRITE | DELETE,
+                                   FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, CREATE_ALWAYS,
+                                   FILE_FLAG_DELETE_ON_CLOSE, nullptr));
 }
 
 bool StartHandOver(const std::string& program, const fs::path& folder) {
@@ -72,11 +80,13 @@ int main() {
   if (!program) return kCannotHandOver;
   const fs::path folder = MakeExchangeFolder();
   KeepArguments(folder / "arguments");
+  qutav::Handle alive = MakeSignOfLife(folder / "alive");
   if (!StartHandOver(*program, folder)) return kCannotHandOver;
   const int code = WaitForEnd(folder / "end");
   std::ifstream output(folder / "output", std::ios::binary);
   if (output.peek() != EOF) std::cout << output.rdbuf();
   output.close();
+  alive.Close();
   std::error_code ignored;
   fs::remove_all(folder, ignored);
   return code;
