@@ -199,14 +199,14 @@ class PublishTest(unittest.TestCase):
 class SettingsTest(PublishTest):
     """Opens the sheet through the script function that the host calls."""
 
-    def open_sheet(self, *answers):
+    def open_sheet(self, *answers, level="26.0", language="en_US"):
         script = self.folder / "script.json"
         script.write_text(json.dumps({"answers": answers}), encoding="utf-8")
         arguments = ", ".join(json.dumps(text) for text in (
-            self.document.as_uri(), (self.game / "Game.qmv").as_uri(), "26.0"))
+            self.document.as_uri(), (self.game / "Game.qmv").as_uri(), level))
         environment = dict(self.environment, QUTAV_SCRIPT=str(script),
                            QUTAV_TRANSCRIPT=str(self.transcript))
-        result = run(BUILD / "qutav", "evaluate", self.document,
+        result = run(BUILD / "qutav", "evaluate", "--language", language, self.document,
                      f"OpenSettingDialog({arguments})", env=environment, timeout=120)
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
         mistakes = [event for event in self.events() if event["event"] == "script-error"]

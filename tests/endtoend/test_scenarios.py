@@ -20,7 +20,7 @@ class Scenarios(SettingsTest):
         self.environment["QUTAV_TOOL_FOLDER"] = str(case.tool)
         self.install_tool(f"exec '{scenarios.STAND_IN_JAVA}' \"$@\"\n")
 
-        self.open_sheet(*case.answers())
+        self.open_sheet(*case.answers(), level=case.level, language=case.language)
 
         outcome = case.outcome(self.registry())
         scenarios.Facts(self, case, outcome).check()

@@ -3,6 +3,8 @@
 Each JSON file beside this one is a scenario:
 
 does       what happens, in a sentence
+level      of the runtime; the newest unless told
+language   of the interface; English unless told
 document   members of the document file that are not the sample's, "data" among them; a null removes
 files      made beforehand: a file of the sample document to copy, or an object with its text
 packaging  what the packaging tool does at each run: "real" (afterwards, too), "hang", or an exit code
@@ -60,6 +62,8 @@ class Case:
         self.document = folder / "Game" / "Game.qud.json"
         self.transcript = folder / "transcript.jsonl"
         self.tool = folder / "tool"
+        self.level = scenario.get("level", "26.0")
+        self.language = scenario.get("language", "en_US")
 
     def prepare(self, keystore):
         if not self.document.exists():

@@ -99,8 +99,9 @@ class Scenarios(unittest.TestCase):
             QUTAV_TRANSCRIPT=windows_path(case.transcript), QUTAV_TOOL_FOLDER=str(case.tool),
             QUTAV_HAND_OVER=str(TESTS / "hand_over.py"), QUTAV_JAVA=str(scenarios.STAND_IN_JAVA),
             **front_end)
-        result = run("wine", BUILD / "qutav.exe", "evaluate", windows_path(case.document),
-                     f'OpenSettingDialog("{address}.qud.json", "{address}.qmv", "26.0")',
+        result = run("wine", BUILD / "qutav.exe", "evaluate", "--language", case.language,
+                     windows_path(case.document),
+                     f'OpenSettingDialog("{address}.qud.json", "{address}.qmv", "{case.level}")',
                      env=environment)
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
 
