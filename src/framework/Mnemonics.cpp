@@ -132,6 +132,14 @@ std::size_t EndOfWords(std::u16string_view text) {
   return text.find_last_not_of(u" :.\u2026\u3002\uFF1A") + 1;
 }
 
+// "(&B)"
+constexpr std::size_t kMarkBehindSize = 4;
+
+bool IsMarkBehind(std::u16string_view mark) {
+  return mark.size() == kMarkBehindSize && mark.starts_with(u"(&") && mark[2] != u'&' &&
+         mark.back() == u')';
+}
+
 std::u16string Marked(std::u16string_view text, const std::optional<Candidate>& mnemonic) {
   if (!mnemonic) return WithDoubledAmpersands(text);
   const bool isBehind = mnemonic->position == kBehind;
@@ -156,6 +164,16 @@ std::vector<std::u16string> WithMnemonics(const std::vector<MnemonicCaption>& ca
     marked.push_back(Marked(captions[i].text, assignment.Chosen()[i]));
   }
   return marked;
+}
+
+std::u16string WithoutMnemonic(std::u16string_view marked) {
+  std::u16string text;
+  for (std::size_t i = 0; i < marked.size(); ++i) {
+    while (IsMarkBehind(marked.substr(i, kMarkBehindSize))) i += kMarkBehindSize;
+    if (marked.substr(i, 1) == u"&") ++i;
+    text += marked.substr(i, 1);
+  }
+  return text;
 }
 
 std::optional<char16_t> MnemonicOf(std::u16string_view marked) {

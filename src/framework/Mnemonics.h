@@ -31,6 +31,9 @@ struct MnemonicCaption {
 std::vector<std::u16string> WithMnemonics(const std::vector<MnemonicCaption>& captions,
                                           std::u16string_view reserved = {});
 
+/// The text of a caption that `WithMnemonics` has made.
+std::u16string WithoutMnemonic(std::u16string_view marked);
+
 /// The mnemonic of a caption that `WithMnemonics` has made, in lower case.
 std::optional<char16_t> MnemonicOf(std::u16string_view marked);
 

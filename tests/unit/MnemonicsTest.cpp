@@ -57,6 +57,13 @@ TEST(MnemonicsTest, DigitsServeWhereNoWordBeginsWithALetter) {
               ElementsAre(u"&128x128:", u"&48x48:", u"3 &years"));
 }
 
+TEST(MnemonicsTest, ACaptionIsReadWithoutItsMnemonic) {
+  EXPECT_EQ(WithoutMnemonic(u"&Browse..."), u"Browse...");
+  EXPECT_EQ(WithoutMnemonic(u"\u53c2\u7167(&B)..."), u"\u53c2\u7167...");
+  EXPECT_EQ(WithoutMnemonic(u"S && &B (&&)"), u"S & B (&)");
+  EXPECT_EQ(WithoutMnemonic(u""), u"");
+}
+
 TEST(MnemonicsTest, AmpersandsOfTheTextAreDoubled) {
   EXPECT_THAT(Marked({u"R&D", u"&& S"}), ElementsAre(u"&R&&D", u"&&&& &S"));
 }
@@ -122,6 +129,16 @@ class MnemonicsOfDialogsTest : public ServicesTest,
     return captions;
   }
 };
+
+TEST_P(MnemonicsOfDialogsTest, WithoutTheirMnemonicsCaptionsAreWhatTheyWere) {
+  for (const auto& dialog : AllDialogs()) {
+    const std::vector<MnemonicCaption> captions = CaptionsOf(*dialog);
+    const std::vector<std::u16string> marked = WithMnemonics(captions, u"h");
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+      EXPECT_EQ(WithoutMnemonic(marked[i]), captions[i].text);
+    }
+  }
+}
 
 TEST_P(MnemonicsOfDialogsTest, NoLetterIsGivenTwice) {
   for (const auto& dialog : AllDialogs()) {
