@@ -98,9 +98,11 @@ class Recorder final : public ControlVisitor {
 
 }  // namespace
 
+Json RecordControl(Control& control) { return Recorder(control).Take(); }
+
 Json RecordControls(const CDialog& dialog) {
   Json records = Json::array();
-  for (const auto& control : dialog.Controls()) records.push_back(Recorder(*control).Take());
+  for (const auto& control : dialog.Controls()) records.push_back(RecordControl(*control));
   return records;
 }
 

@@ -7,6 +7,9 @@
 
 namespace qutav {
 
+/// A control with its state. Passwords are masked.
+nlohmann::ordered_json RecordControl(Control& control);
+
 /// Every control of a dialog with its state. Passwords are masked.
 nlohmann::ordered_json RecordControls(const CDialog& dialog);
 

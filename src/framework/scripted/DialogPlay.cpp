@@ -1,6 +1,5 @@
 #include "framework/scripted/DialogPlay.h"
 
-#include "framework/scripted/ControlRecord.h"
 #include "platform/Text.h"
 
 namespace qutav {
@@ -13,15 +12,11 @@ Json RecordOf(const char* event, const CDialog& dialog) {
       {"event", event}, {"class", ToUtf8(dialog.ClassName())}, {"title", ToUtf8(dialog.Title())}};
 }
 
-Json WithControls(Json record, const CDialog& dialog) {
-  record["controls"] = RecordControls(dialog);
-  return record;
-}
-
 }  // namespace
 
 DialogPlay::DialogPlay(CDialog& dialog, Hands& hands, ScriptDirector& director)
     : dialog_(dialog),
+      hands_(hands),
       director_(director),
       player_(dialog, hands, director.GetTranscript(), director.Pressed()) {}
 
@@ -37,7 +32,9 @@ DialogPlay::DialogPlay(CPropertySheet& sheet, Hands& hands, ScriptDirector& dire
 
 void DialogPlay::OnShown() {
   if (sheet_ == nullptr) {
-    director_.GetTranscript().Write(WithControls(RecordOf("dialog", dialog_), dialog_));
+    Json opened = RecordOf("dialog", dialog_);
+    opened["controls"] = hands_.Look(dialog_);
+    director_.GetTranscript().Write(opened);
     answer_ =
         director_.TakeAnswer({"dialog", ToUtf8(dialog_.ClassName()), ToUtf8(dialog_.Title()), ""});
   }
@@ -62,7 +59,7 @@ void DialogPlay::OnPage(int index) {
                                    {"index", index},
                                    {"class", ToUtf8(page.ClassName())},
                                    {"title", ToUtf8(page.Title())},
-                                   {"controls", RecordControls(page)}});
+                                   {"controls", hands_.Look(page)}});
 }
 
 void DialogPlay::OnClosed() {

@@ -28,6 +28,7 @@ class DialogPlay final : public ModalEvents {
 
   CDialog& dialog_;
   CPropertySheet* sheet_ = nullptr;
+  Hands& hands_;
   ScriptDirector& director_;
   StepPlayer player_;
   std::optional<ScriptAnswer> answer_;

@@ -1,5 +1,7 @@
 #include "framework/scripted/Hands.h"
 
+#include "framework/scripted/ControlRecord.h"
+
 namespace qutav {
 
 void ModelHands::Click(Clickable& control) {
@@ -29,5 +31,7 @@ void ModelHands::Toggle(CheckList& list, int row) {
 void ModelHands::TurnTo(CPropertySheet& sheet, int page) {
   CDialog::Dispatch([&] { sheet.SetActivePage(page); });
 }
+
+nlohmann::ordered_json ModelHands::Look(const CDialog& dialog) { return RecordControls(dialog); }
 
 }  // namespace qutav

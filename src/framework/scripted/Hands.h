@@ -1,6 +1,7 @@
-// How a script's steps are carried out on controls: each as a user does it.
+// How a script's steps are carried out on controls: each as a user does it; and what a user sees.
 #pragma once
 
+#include <nlohmann/json.hpp>
 #include <string>
 
 #include "framework/CPropertySheet.h"
@@ -22,6 +23,8 @@ class Hands {
   /// Clicks the row's check box.
   virtual void Toggle(CheckList& list, int row) = 0;
   virtual void TurnTo(CPropertySheet& sheet, int page) = 0;
+  /// The controls of a dialog as they are shown. Passwords are masked.
+  virtual nlohmann::ordered_json Look(const CDialog& dialog) = 0;
   /// Writes what the dialog looks like to a PNG file; false when that cannot be done.
   virtual bool TakePicture(const CDialog& dialog, const std::string& path) = 0;
 };
@@ -37,6 +40,7 @@ class ModelHands final : public Hands {
   void Choose(CheckList& list, int row) override;
   void Toggle(CheckList& list, int row) override;
   void TurnTo(CPropertySheet& sheet, int page) override;
+  nlohmann::ordered_json Look(const CDialog& dialog) override;
   bool TakePicture(const CDialog&, const std::string&) override { return false; }
 };
 

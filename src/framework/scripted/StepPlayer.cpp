@@ -1,6 +1,5 @@
 #include "framework/scripted/StepPlayer.h"
 
-#include "framework/scripted/ControlRecord.h"
 #include "framework/scripted/UserActions.h"
 #include "platform/Text.h"
 
@@ -82,7 +81,7 @@ void StepPlayer::Show() {
   transcript_.Write({{"event", "controls"},
                      {"class", ToUtf8(Front().ClassName())},
                      {"title", ToUtf8(Front().Title())},
-                     {"controls", RecordControls(Front())}});
+                     {"controls", hands_.Look(Front())}});
 }
 
 }  // namespace qutav

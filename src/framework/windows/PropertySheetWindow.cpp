@@ -126,6 +126,7 @@ class PropertySheetWindow final : public SheetWindow {
   // The system has turned already when the user does.
   void ShowPage(int index) override {
     if (index != arrivingPage_) TurnTo(index);
+    OpenWindows::Update();
     events_.OnPage(index);
   }
 

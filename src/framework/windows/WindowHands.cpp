@@ -2,6 +2,7 @@
 
 #include "framework/windows/OpenWindows.h"
 #include "framework/windows/WindowPicture.h"
+#include "framework/windows/WindowRecord.h"
 #include "platform/windows/Wide.h"
 
 namespace qutav {
@@ -65,6 +66,8 @@ void WindowHands::Toggle(CheckList& list, int row) {
 void WindowHands::TurnTo(CPropertySheet& sheet, int page) {
   PropSheet_SetCurSel(OpenWindows::HostOf(sheet)->Window(), nullptr, page);
 }
+
+nlohmann::ordered_json WindowHands::Look(const CDialog& dialog) { return RecordWindows(dialog); }
 
 bool WindowHands::TakePicture(const CDialog& dialog, const std::string& path) {
   return WriteWindowPicture(OpenWindows::HostOf(dialog)->Window(), path);

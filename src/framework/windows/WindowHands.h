@@ -15,6 +15,7 @@ class WindowHands final : public Hands {
   void Choose(CheckList& list, int row) override;
   void Toggle(CheckList& list, int row) override;
   void TurnTo(CPropertySheet& sheet, int page) override;
+  nlohmann::ordered_json Look(const CDialog& dialog) override;
   bool TakePicture(const CDialog& dialog, const std::string& path) override;
 };
 
