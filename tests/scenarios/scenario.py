@@ -23,7 +23,8 @@ holds      what must be true afterwards:
     signer       who has signed the package
 
 "{folder}" stands for the folder of the case, which holds the document in "Game", the certificate
-"sample.p12" and what "files" names. Slashes are forward everywhere.
+"sample.p12" and what "files" names. Slashes are forward everywhere; "{native}" is the folder with
+backward ones, as rows of lists have it.
 """
 
 import dataclasses
@@ -95,7 +96,8 @@ class Case:
 
     def _filled_in(self, value):
         if isinstance(value, str):
-            return value.replace("{folder}", self.shown_folder)
+            native = self.shown_folder.replace("/", "\\")
+            return value.replace("{folder}", self.shown_folder).replace("{native}", native)
         if isinstance(value, list):
             return [self._filled_in(item) for item in value]
         if isinstance(value, dict):
