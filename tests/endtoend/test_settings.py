@@ -79,12 +79,6 @@ class ProvisioningProfile(SettingsTest):
         self.assertEqual(self.application_id_after(profile), "com.example.game")
         self.assertEqual(self.messages(), [])
 
-    def test_one_without_a_list_is_told_and_the_sheet_goes_on(self):
-        profile = self.sign("no list")
-
-        self.assertEqual(self.application_id_after(profile), "com.example.game")
-        self.assertEqual(self.messages(), ["Unknown error.\n\ninvalid string position"])
-
 
 class SettingsCommand(SettingsTest):
     def settings(self, *options):
