@@ -75,14 +75,9 @@ Candidates LettersBehind(std::u16string_view english) {
   return candidates;
 }
 
-Candidates CandidatesFor(const MnemonicCaption& caption, std::u16string_view reserved) {
+Candidates CandidatesFor(const MnemonicCaption& caption) {
   const bool isEastAsian = std::any_of(caption.text.begin(), caption.text.end(), IsEastAsian);
-  Candidates candidates = isEastAsian ? LettersBehind(caption.english) : LettersOf(caption.text);
-  std::erase_if(candidates, [&](const Candidate& candidate) {
-    return std::any_of(reserved.begin(), reserved.end(),
-                       [&](char16_t taken) { return ToLowerCase(taken) == candidate.letter; });
-  });
-  return candidates;
+  return isEastAsian ? LettersBehind(caption.english) : LettersOf(caption.text);
 }
 
 /// Who has which letter. Captions come one after the other; one for which no letter is left makes
@@ -152,12 +147,9 @@ std::u16string Marked(std::u16string_view text, const std::optional<Candidate>& 
 
 }  // namespace
 
-std::vector<std::u16string> WithMnemonics(const std::vector<MnemonicCaption>& captions,
-                                          std::u16string_view reserved) {
+std::vector<std::u16string> WithMnemonics(const std::vector<MnemonicCaption>& captions) {
   std::vector<Candidates> candidates;
-  for (const MnemonicCaption& caption : captions) {
-    candidates.push_back(CandidatesFor(caption, reserved));
-  }
+  for (const MnemonicCaption& caption : captions) candidates.push_back(CandidatesFor(caption));
   const Assignment assignment(std::move(candidates));
   std::vector<std::u16string> marked;
   for (std::size_t i = 0; i < captions.size(); ++i) {

@@ -19,17 +19,16 @@ struct MnemonicCaption {
 /// the mnemonic of each, and an ampersand of the text itself is doubled.
 ///
 /// A mnemonic is a Latin or Cyrillic letter or a digit of its text: best the first of a word, best
-/// of an early one. No two captions get the same, whatever its case, and none gets a letter of
-/// `reserved`. An earlier caption takes a less good letter when a later one would have none at all;
-/// a caption is left without a mnemonic only where there is no way to give all of them one.
+/// of an early one. No two captions get the same, whatever its case. An earlier caption takes a
+/// less good letter when a later one would have none at all; a caption is left without a mnemonic
+/// only where there is no way to give all of them one.
 ///
 /// A text in Chinese, Japanese or Korean gets a letter behind it, as is the custom in these
 /// languages:
 ///
 ///     WithMnemonics({{u"Browse..."}, {u"Boot:"}})    // "&Browse...", "B&oot:"
 ///     WithMnemonics({{u"参照...", u"Browse..."}})    // "参照(&B)..."
-std::vector<std::u16string> WithMnemonics(const std::vector<MnemonicCaption>& captions,
-                                          std::u16string_view reserved = {});
+std::vector<std::u16string> WithMnemonics(const std::vector<MnemonicCaption>& captions);
 
 /// The text of a caption that `WithMnemonics` has made.
 std::u16string WithoutMnemonic(std::u16string_view marked);

@@ -12,11 +12,10 @@ namespace {
 
 using ::testing::ElementsAre;
 
-std::vector<std::u16string> Marked(const std::vector<std::u16string>& texts,
-                                   std::u16string_view reserved = {}) {
+std::vector<std::u16string> Marked(const std::vector<std::u16string>& texts) {
   std::vector<MnemonicCaption> captions;
   for (const std::u16string& text : texts) captions.push_back({text});
-  return WithMnemonics(captions, reserved);
+  return WithMnemonics(captions);
 }
 
 TEST(MnemonicsTest, TheFirstLetterOfAWordIsBest) {
@@ -32,11 +31,6 @@ TEST(MnemonicsTest, CaseMakesNoDifference) {
   EXPECT_THAT(Marked({u"browse", u"Boot"}), ElementsAre(u"&browse", u"B&oot"));
   EXPECT_THAT(Marked({u"\u0444\u0430", u"\u0424\u0418"}),
               ElementsAre(u"&\u0444\u0430", u"\u0424&\u0418"));
-}
-
-TEST(MnemonicsTest, ReservedLettersAreNotGiven) {
-  EXPECT_THAT(Marked({u"Help files"}, u"h"), ElementsAre(u"Help &files"));
-  EXPECT_THAT(Marked({u"help files"}, u"HF"), ElementsAre(u"h&elp files"));
 }
 
 TEST(MnemonicsTest, AnEarlierCaptionMovesOnForALaterOneThatHasNoOtherLetter) {

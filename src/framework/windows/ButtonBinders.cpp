@@ -8,6 +8,9 @@
 #include "framework/windows/WindowText.h"
 #include "platform/windows/Wide.h"
 
+// behind the system's own header
+#include <uxtheme.h>
+
 namespace qutav {
 namespace {
 
@@ -113,6 +116,7 @@ void ImageButtonBinder::AddTooltip() {
 void ImageButtonBinder::OnCommand(int notification) {
   switch (notification) {
     case BN_CLICKED:
+    case BN_DOUBLECLICKED:  // which a button that draws itself says of every second fast click
       RunEvent([&] { button_.Click(); });
       break;
     case BN_SETFOCUS:
@@ -126,7 +130,11 @@ void ImageButtonBinder::OnCommand(int notification) {
 }
 
 void ImageButtonBinder::OnDrawItem(const DRAWITEMSTRUCT& item) {
-  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
+  // A page's background is not that of a dialog.
+  RECT place = item.rcItem;
+  if (FAILED(DrawThemeParentBackground(Window(), item.hDC, &place))) {
+    FillRect(item.hDC, &place, GetSysColorBrush(COLOR_BTNFACE));
+  }
   const bool selected = (item.itemState & ODS_SELECTED) != 0;
   DrawButtonImage(item.hDC, item.rcItem, button_.image, button_.DrawItem(selected));
   focusedOnScreen_ = button_.focused;

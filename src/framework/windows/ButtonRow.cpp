@@ -31,6 +31,10 @@ RowButton Measured(HWND window, HWND button) {
   return {button, place, std::max(needed, static_cast<int>(place.right - place.left))};
 }
 
+bool Fits(const RowButton& button) {
+  return button.width <= button.place.right - button.place.left;
+}
+
 }  // namespace
 
 void FitButtons(HWND window, std::vector<HWND> buttons) {
@@ -38,6 +42,7 @@ void FitButtons(HWND window, std::vector<HWND> buttons) {
   for (HWND button : buttons) row.push_back(Measured(window, button));
   std::sort(row.begin(), row.end(),
             [](const auto& a, const auto& b) { return a.place.left < b.place.left; });
+  if (std::all_of(row.begin(), row.end(), Fits)) return;
   const LONG gap = row[1].place.left - row[0].place.right;
   LONG right = row.back().place.right;
   for (auto button = row.rbegin(); button != row.rend(); ++button) {

@@ -6,6 +6,7 @@
 
 #include "framework/CDialog.h"
 #include "framework/Layout.h"
+#include "framework/windows/DialogFont.h"
 
 namespace qutav {
 
@@ -25,11 +26,11 @@ class CaptionMarks {
   std::map<std::u16string, std::u16string> byText_;
 };
 
-/// Measures captions as they are drawn with their marks. What it is made of must outlive it.
+/// Measures captions as they are drawn with their marks. The marks and the font must outlive it.
 class MarkedMeasure final : public LayoutMeasure {
  public:
-  MarkedMeasure(const LayoutMeasure& plain, const CaptionMarks& marks)
-      : plain_(plain), marks_(marks) {}
+  MarkedMeasure(HFONT font, unsigned dpi, const CaptionMarks& marks)
+      : plain_(font, dpi), marks_(marks) {}
 
   int Horizontal(int dialogUnits) const override { return plain_.Horizontal(dialogUnits); }
   int Vertical(int dialogUnits) const override { return plain_.Vertical(dialogUnits); }
@@ -42,7 +43,7 @@ class MarkedMeasure final : public LayoutMeasure {
   }
 
  private:
-  const LayoutMeasure& plain_;
+  FontMeasure plain_;
   const CaptionMarks& marks_;
 };
 

@@ -1,7 +1,7 @@
 #include "framework/windows/ControlHost.h"
 
 #include <algorithm>
-#include <utility>
+#include <iterator>
 
 #include "framework/windows/ModalLoop.h"
 #include "framework/windows/OpenWindows.h"
@@ -41,11 +41,16 @@ ControlHost::ControlHost(HWND window, CDialog& dialog, unsigned dpi)
 ControlHost::~ControlHost() { OpenWindows::Remove(*this); }
 
 void ControlHost::RemoveGone() {
-  std::erase_if(binders_, [this](const auto& binder) {
-    if (StillHas(dialog_, *binder)) return false;
-    DestroyWindow(binder->Window());
-    return true;
-  });
+  const auto gone =
+      std::stable_partition(binders_.begin(), binders_.end(),
+                            [this](const auto& binder) { return StillHas(dialog_, *binder); });
+  // Moved out first: windows that go cause messages.
+  const std::vector<std::unique_ptr<ControlBinder>> binders(
+      std::make_move_iterator(gone), std::make_move_iterator(binders_.end()));
+  binders_.erase(gone, binders_.end());
+  for (const auto& binder : binders) {
+    if (!binder->IsOurs()) DestroyWindow(binder->Window());
+  }
 }
 
 void ControlHost::AddNew() {
@@ -88,13 +93,11 @@ ControlBinder* ControlHost::BinderOf(HWND window) const {
 ControlBinder* ControlHost::BinderOf(int id) const { return BinderOf(GetDlgItem(window_, id)); }
 
 Size ControlHost::NaturalSize() const {
-  const FontMeasure plain(Font(), dpi_);
-  return dialog_.GetLayout().NaturalSize(MarkedMeasure(plain, marks_));
+  return dialog_.GetLayout().NaturalSize(MarkedMeasure(Font(), dpi_, marks_));
 }
 
 void ControlHost::Arrange(const Size& size) {
-  const FontMeasure plain(Font(), dpi_);
-  const MarkedMeasure measure(plain, marks_);
+  const MarkedMeasure measure(Font(), dpi_, marks_);
   for (const PlacedControl& placed : dialog_.GetLayout().Arrange(measure, size)) {
     BinderOf(*placed.control)->Place(placed);
   }

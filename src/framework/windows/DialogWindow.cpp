@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <stdexcept>
+#include <utility>
 
 #include "framework/windows/ControlHost.h"
 #include "framework/windows/DialogTemplate.h"
@@ -34,6 +36,7 @@ class DialogWindow {
     const DialogTemplate empty(kStyle, {});
     window_ = CreateDialogIndirectParamW(OurModule(), empty.Get(), owner_, &Procedure,
                                          reinterpret_cast<LPARAM>(this));
+    if (window_ == nullptr) throw std::runtime_error("the system makes no window for a dialog");
     SetWindowTextW(window_, Wide(dialog_.Title()));
     controls_.emplace(window_, dialog_, GetDpiForWindow(window_));
     controls_->Update();
@@ -42,16 +45,17 @@ class DialogWindow {
   }
   ~DialogWindow() {
     controls_.reset();
+    modal_.reset();
     DestroyWindow(window_);
   }
   DialogWindow(const DialogWindow&) = delete;
   DialogWindow& operator=(const DialogWindow&) = delete;
 
   void Run() {
-    const Creation creation(dialog_);
+    const DestroyedModel atEnd(dialog_);
+    dialog_.Create();
     OpenWindows::Update();
     if (dialog_.IsPlaced()) MoveTo(dialog_.Left(), dialog_.Top());
-    const DisabledOwner modal(owner_);
     if (!dialog_.HasEnded()) Show();
     events_.OnShown();
     RunModalLoop(window_, dialog_,
@@ -59,18 +63,6 @@ class DialogWindow {
   }
 
  private:
-  // What is created is destroyed, also when an exception is on its way.
-  class Creation {
-   public:
-    explicit Creation(CDialog& dialog) : dialog_(dialog) { dialog_.Create(); }
-    ~Creation() { dialog_.Destroy(); }
-    Creation(const Creation&) = delete;
-    Creation& operator=(const Creation&) = delete;
-
-   private:
-    CDialog& dialog_;
-  };
-
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
       SetWindowLongPtrW(window, DWLP_USER, lParam);
@@ -86,6 +78,10 @@ class DialogWindow {
       return TRUE;
     }
     if (message == WM_DESTROY) WakeModalLoop();
+    if (message == WM_COMMAND && LOWORD(wParam) == IDOK) {  // Enter, where no button takes it
+      RunEvent([this] { dialog_.OnOK(); });
+      return TRUE;
+    }
     if (message == WM_DPICHANGED) {
       OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return TRUE;
@@ -146,6 +142,7 @@ class DialogWindow {
   CDialog& dialog_;
   ModalEvents& events_;
   HWND owner_;
+  std::optional<DisabledWindows> modal_{std::in_place};
   HWND window_ = nullptr;
   std::optional<ControlHost> controls_;
 };

@@ -6,6 +6,7 @@
 #include "platform/windows/System.h"
 #include "platform/windows/Wide.h"
 // behind the system's own header
+#include <cderr.h>
 #include <commdlg.h>
 #include <shlobj.h>
 
@@ -69,6 +70,12 @@ std::u16string PathOf(const ITEMIDLIST& item) {
   return UpToZero(path);
 }
 
+// A start name that no file can have would keep the dialog from opening.
+bool ShowWithoutName(decltype(&GetSaveFileNameW) show, OPENFILENAMEW& dialog) {
+  *dialog.lpstrFile = L'\0';
+  return show(&dialog) != FALSE;
+}
+
 }  // namespace
 
 std::optional<std::u16string> ShowFileDialog(const FileDialogRequest& request) {
@@ -88,7 +95,10 @@ std::optional<std::u16string> ShowFileDialog(const FileDialogRequest& request) {
   dialog.lpstrDefExt = WideOrNull(request.defaultExtension);
   dialog.Flags = kFileDialogFlags;
   const auto show = request.kind == FileDialogKind::kSave ? GetSaveFileNameW : GetOpenFileNameW;
-  if (!show(&dialog)) return {};
+  if (!show(&dialog) &&
+      !(CommDlgExtendedError() == FNERR_INVALIDFILENAME && ShowWithoutName(show, dialog))) {
+    return {};
+  }
   return UpToZero(path);
 }
 

@@ -58,8 +58,9 @@ void ComboBoxBinder::Show() {
   if (combo_.Rows() != rows_) ShowRows();
   if (combo_.GetCurSel() != selection_) ShowSelection();
   if (combo_.style == ComboStyle::kDropDown) ShowText();
-  if (combo_.DroppedWidth() > 0) {
-    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(combo_.DroppedWidth()));
+  if (combo_.DroppedWidth() != droppedWidth_) {
+    droppedWidth_ = combo_.DroppedWidth();
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(droppedWidth_));
   }
 }
 
@@ -106,8 +107,10 @@ void ListBoxBinder::Show() {
 }
 
 void ListBoxBinder::ShowRows() {
+  const LRESULT top = Send(LB_GETTOPINDEX);
   Send(LB_RESETCONTENT);
   for (const std::u16string& row : list_.Rows()) Send(LB_ADDSTRING, 0, RowParameter(row));
+  Send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
   rows_ = list_.Rows();
 }
 

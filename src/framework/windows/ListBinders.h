@@ -25,6 +25,7 @@ class ComboBoxBinder final : public ControlBinder {
   ComboBox& combo_;
   std::vector<std::u16string> rows_;
   int selection_ = -1;
+  int droppedWidth_ = 0;
 };
 
 class ListBoxBinder final : public ControlBinder {

@@ -5,6 +5,19 @@
 namespace qutav {
 namespace {
 
+BOOL CALLBACK TakeMainWindow(HWND window, LPARAM target) {
+  if (GetWindow(window, GW_OWNER) != nullptr || !IsWindowVisible(window)) return TRUE;
+  *reinterpret_cast<HWND*>(target) = window;
+  return FALSE;
+}
+
+BOOL CALLBACK Disable(HWND window, LPARAM list) {
+  if (!IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+  EnableWindow(window, FALSE);
+  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
 void Cancel(CDialog& dialog) {
   CDialog::Dispatch([&] { dialog.OnCancel(); });
   if (!dialog.HasEnded()) dialog.EndDialog(kIdCancel);
@@ -19,19 +32,25 @@ void Deliver(MSG& message, const KeyFilter& isDialogKey) {
 
 }  // namespace
 
-DisabledOwner::DisabledOwner(HWND owner)
-    : owner_(owner), disabled_(owner != nullptr && IsWindowEnabled(owner) != FALSE) {
-  if (disabled_) EnableWindow(owner_, FALSE);
-}
-
-DisabledOwner::~DisabledOwner() {
-  if (disabled_) EnableWindow(owner_, TRUE);
+HWND MainWindowOfThread() {
+  HWND window = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), &TakeMainWindow, reinterpret_cast<LPARAM>(&window));
+  return window;
 }
 
 HWND OwnerFor(WindowHandle parent) {
   HWND window = static_cast<HWND>(parent);
   if (window == nullptr) window = GetActiveWindow();
+  if (window == nullptr) window = MainWindowOfThread();
   return window == nullptr ? nullptr : GetAncestor(window, GA_ROOT);
+}
+
+DisabledWindows::DisabledWindows() {
+  EnumThreadWindows(GetCurrentThreadId(), &Disable, reinterpret_cast<LPARAM>(&windows_));
+}
+
+DisabledWindows::~DisabledWindows() {
+  for (HWND window : windows_) EnableWindow(window, TRUE);
 }
 
 void RunModalLoop(HWND window, CDialog& dialog, const KeyFilter& isDialogKey) {

@@ -4,6 +4,7 @@
 
 #include "framework/windows/DialogWindow.h"
 #include "framework/windows/FileDialogs.h"
+#include "framework/windows/ModalLoop.h"
 #include "framework/windows/OpenWindows.h"
 #include "framework/windows/PropertySheetWindow.h"
 #include "framework/windows/WindowScope.h"
@@ -32,12 +33,6 @@ UINT ButtonsFlag(MessageButtons buttons) {
   return buttons == MessageButtons::kOkCancel ? MB_OKCANCEL : MB_OK;
 }
 
-BOOL CALLBACK TakeMainWindow(HWND window, LPARAM target) {
-  if (GetWindow(window, GW_OWNER) != nullptr || !IsWindowVisible(window)) return TRUE;
-  *reinterpret_cast<HWND*>(target) = window;
-  return FALSE;
-}
-
 Rectangle RectangleOf(HWND window) {
   RECT rectangle{};
   if (window != nullptr) GetWindowRect(window, &rectangle);
@@ -50,7 +45,8 @@ int Measure(const Control& control, const std::function<int(const FontMeasure&)>
     const LRESULT font = SendMessageW(binder->Window(), WM_GETFONT, 0, 0);
     return measure({reinterpret_cast<HFONT>(font), GetDpiForWindow(binder->Window())});
   }
-  const unsigned dpi = GetDpiForSystem();
+  HWND active = GetActiveWindow();
+  const unsigned dpi = active == nullptr ? GetDpiForSystem() : GetDpiForWindow(active);
   const DialogFont font(dpi);
   return measure({font.Handle(), dpi});
 }
@@ -59,17 +55,15 @@ int Measure(const Control& control, const std::function<int(const FontMeasure&)>
 
 WindowHandle NativeFrontEnd::FocusWindow() { return GetFocus(); }
 
-WindowHandle NativeFrontEnd::MainWindow() {
-  HWND window = nullptr;
-  EnumThreadWindows(GetCurrentThreadId(), TakeMainWindow, reinterpret_cast<LPARAM>(&window));
-  return window;
-}
+WindowHandle NativeFrontEnd::MainWindow() { return MainWindowOfThread(); }
 
+// Without an owner, while the user is in another program, it still takes input from all windows.
 int NativeFrontEnd::ShowMessage(const MessageBoxRequest& request) {
   const WindowScope scope;
+  const UINT modality = request.owner == nullptr ? MB_TASKMODAL : MB_APPLMODAL;
   const int pressed =
       MessageBoxW(static_cast<HWND>(request.owner), Wide(request.text), Wide(request.title),
-                  IconFlag(request.icon) | ButtonsFlag(request.buttons));
+                  IconFlag(request.icon) | ButtonsFlag(request.buttons) | modality);
   return pressed == IDOK ? kIdOk : kIdCancel;
 }
 

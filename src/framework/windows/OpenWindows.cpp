@@ -40,7 +40,7 @@ void OpenWindows::PreTranslate(const MSG& message) {
 
 void RunEvent(const std::function<void()>& event) {
   CDialog::Dispatch(event);
-  OpenWindows::Update();
+  CDialog::Dispatch(&OpenWindows::Update);
 }
 
 }  // namespace qutav

@@ -47,6 +47,7 @@ INT_PTR CALLBACK PageWindow::Procedure(HWND window, UINT message, WPARAM wParam,
 }
 
 void PageWindow::OnInitDialog(HWND window) {
+  dpi_ = GetDpiForWindow(window);
   controls_.emplace(window, page_, dpi_);
   controls_->Update();
   FillWindow();
@@ -67,6 +68,9 @@ INT_PTR PageWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       dpi_ = GetDpiForWindow(controls_->Window());
       controls_->SetDpi(dpi_);
       FillWindow();
+      return TRUE;
+    case WM_CLOSE:  // a field of several lines sends it at Esc
+      PostMessageW(GetParent(controls_->Window()), WM_CLOSE, 0, 0);
       return TRUE;
     case WM_DESTROY:
       controls_.reset();

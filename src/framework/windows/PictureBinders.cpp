@@ -2,8 +2,6 @@
 
 #include <tuple>
 
-#include "framework/CDialog.h"
-
 // behind the system's own header
 #include <objidl.h>
 // behind objidl.h
@@ -44,14 +42,23 @@ void DrawImage(Gdiplus::Graphics& graphics, const Image& image, const Gdiplus::R
 PictureBinder::PictureBinder(Picture& picture, const WindowPlace& place)
     : ControlBinder(picture, place, {WC_STATICW, SS_OWNERDRAW, 0, true}), picture_(picture) {}
 
+// Nothing is told of what goes wrong: a message over the window would have it painted again.
+void PictureBinder::Repaint() const {
+  try {
+    if (picture_.onPaint) picture_.onPaint();
+  } catch (...) {
+    picture_.Clear(picture_.Background());
+  }
+}
+
 // Drawn aside first, or it would flicker.
 void PictureBinder::OnDrawItem(const DRAWITEMSTRUCT& item) {
-  if (picture_.onPaint) CDialog::Dispatch(picture_.onPaint);
+  Repaint();
   Gdiplus::Bitmap canvas(item.rcItem.right, item.rcItem.bottom, PixelFormat32bppPARGB);
   Gdiplus::Graphics aside(&canvas);
   aside.Clear(Gdiplus::Color(picture_.Background()));
   if (picture_.Painted()) DrawImage(aside, *picture_.Painted(), InWindow(picture_, item.rcItem));
-  Gdiplus::Graphics(item.hDC).DrawImage(&canvas, 0, 0);
+  Gdiplus::Graphics(item.hDC).DrawImage(&canvas, 0, 0, item.rcItem.right, item.rcItem.bottom);
   shownBackground_ = picture_.Background();
   shownImage_ = picture_.Painted();
   shownTarget_ = picture_.Target();

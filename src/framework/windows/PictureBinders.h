@@ -17,6 +17,7 @@ class PictureBinder final : public ControlBinder {
 
  private:
   void Show() override;
+  void Repaint() const;
 
   Picture& picture_;
   std::uint32_t shownBackground_ = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "framework/windows/OpenWindows.h"
 #include "framework/windows/PageWindow.h"
 #include "framework/windows/WindowScope.h"
+#include "framework/windows/WindowText.h"
 #include "platform/windows/Wide.h"
 
 // behind the system's own header
@@ -20,6 +22,7 @@ namespace qutav {
 namespace {
 
 constexpr UINT_PTR kSubclass = 1;
+constexpr UINT kPlacePage = WM_APP + 1;  // behind what the system does at a turn
 
 Rectangle FromRect(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
@@ -39,11 +42,17 @@ class SheetControls final : public ControlHost {
  private:
   std::unique_ptr<ControlBinder> Bind(Control& control, const WindowPlace& place) override {
     auto& button = dynamic_cast<Button&>(control);
-    if (HWND made = GetDlgItem(Window(), button.commandId)) return AdoptButton(button, made);
+    if (HWND made = GetDlgItem(Window(), button.commandId)) return Adopt(button, made);
     auto binder = MakeBinder(button, {place.parent, button.commandId, place.dpi});
     binder->SetFont(static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT)), place.dpi);
     binder->Place({&control, button.place, {}});
     return binder;
+  }
+
+  // Its texts are ours; but the one that the sheet mends is left to it.
+  static std::unique_ptr<ControlBinder> Adopt(Button& button, HWND made) {
+    if (button.commandId == kIdHelp && WindowText(made) == u"?") button.text = u"?";
+    return AdoptButton(button, made);
   }
 };
 
@@ -54,7 +63,7 @@ class PropertySheetWindow final : public SheetWindow {
     MakePages();
     MakeWindow();
     SetWindowSubclass(window_, &Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
-    controls_.emplace(window_, sheet_, dpi_);
+    controls_.emplace(window_, sheet_, GetDpiForWindow(window_));
     controls_->Update();
     sheet_.Attach(this);
   }
@@ -62,16 +71,18 @@ class PropertySheetWindow final : public SheetWindow {
     sheet_.Attach(nullptr);
     controls_.reset();
     RemoveWindowSubclass(window_, &Procedure, kSubclass);
+    modal_.reset();
     DestroyWindow(window_);
   }
   PropertySheetWindow(const PropertySheetWindow&) = delete;
   PropertySheetWindow& operator=(const PropertySheetWindow&) = delete;
 
   void Run() {
-    const Creation creation(sheet_);
+    const DestroyedModel atEnd(sheet_);
+    sheet_.Create();
     OpenWindows::Update();
     FitButtons(window_, ButtonWindows());
-    const DisabledOwner modal(owner_);
+    Show();
     events_.OnShown();
     RunModalLoop(window_, sheet_, [this](MSG& message) {
       return PropSheet_IsDialogMessage(window_, &message) != FALSE;
@@ -127,22 +138,11 @@ class PropertySheetWindow final : public SheetWindow {
   void ShowPage(int index) override {
     if (index != arrivingPage_) TurnTo(index);
     OpenWindows::Update();
+    PostMessageW(window_, kPlacePage, 0, 0);
     events_.OnPage(index);
   }
 
  private:
-  // What is created is destroyed, also when an exception is on its way.
-  class Creation {
-   public:
-    explicit Creation(CPropertySheet& sheet) : sheet_(sheet) { sheet_.Create(); }
-    ~Creation() { sheet_.Destroy(); }
-    Creation(const Creation&) = delete;
-    Creation& operator=(const Creation&) = delete;
-
-   private:
-    CPropertySheet& sheet_;
-  };
-
   // All pages get the size of the largest, in the language of now.
   void MakePages() {
     const DialogFont font(dpi_);
@@ -150,7 +150,7 @@ class PropertySheetWindow final : public SheetWindow {
     Size units;
     for (const CPropertyPage* page : sheet_.Pages()) {
       const CaptionMarks marks(*page);
-      const Size natural = page->GetLayout().NaturalSize(MarkedMeasure(plain, marks));
+      const Size natural = page->GetLayout().NaturalSize(MarkedMeasure(font.Handle(), dpi_, marks));
       units.width = std::max(units.width, plain.HorizontalUnits(natural.width));
       units.height = std::max(units.height, plain.VerticalUnits(natural.height));
     }
@@ -166,7 +166,9 @@ class PropertySheetWindow final : public SheetWindow {
     for (const auto& page : pages_) pages.push_back(page->Description());
     PROPSHEETHEADERW header{};
     header.dwSize = sizeof header;
-    header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS | PSH_HASHELP | PSH_NOCONTEXTHELP;
+    header.dwFlags =
+        PSH_PROPSHEETPAGE | PSH_MODELESS | PSH_HASHELP | PSH_NOCONTEXTHELP | PSH_USECALLBACK;
+    header.pfnCallback = &HideAtFirst;
     header.hwndParent = owner_;
     header.hInstance = OurModule();
     header.pszCaption = Wide(sheet_.Title());
@@ -174,8 +176,37 @@ class PropertySheetWindow final : public SheetWindow {
     header.nStartPage = static_cast<UINT>(sheet_.GetActiveIndex());
     header.ppsp = pages.data();
     turning_ = true;
-    window_ = reinterpret_cast<HWND>(PropertySheetW(&header));
+    const INT_PTR made = PropertySheetW(&header);
     turning_ = false;
+    if (made <= 0) throw std::runtime_error("the system makes no property sheet");
+    window_ = reinterpret_cast<HWND>(made);
+  }
+
+  // Nobody is to see it before its first page has been filled.
+  static int CALLBACK HideAtFirst(HWND, UINT message, LPARAM sheetTemplate) {
+    if (message != PSCB_PRECREATE) return 0;
+    auto* style = reinterpret_cast<DWORD*>(sheetTemplate);
+    const bool isExtended = HIWORD(*style) == 0xFFFF;
+    style[isExtended ? 3 : 0] &= ~WS_VISIBLE;
+    return 0;
+  }
+
+  void Show() const {
+    ShowWindow(window_, SW_SHOW);
+    HWND page = PropSheet_GetCurrentPageHwnd(window_);
+    SetFocus(GetNextDlgTabItem(page, nullptr, FALSE));
+    UpdateWindow(window_);
+  }
+
+  // A page comes where pages stood at the opening; the sheet may have been scrolled since.
+  void PlacePage() const {
+    HWND tabs = PropSheet_GetTabControl(window_);
+    RECT place{};
+    GetClientRect(tabs, &place);
+    TabCtrl_AdjustRect(tabs, FALSE, &place);
+    MapWindowPoints(tabs, window_, reinterpret_cast<POINT*>(&place), 2);
+    SetWindowPos(PropSheet_GetCurrentPageHwnd(window_), nullptr, place.left, place.top, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
 
   void TurnTo(int index) {
@@ -202,7 +233,14 @@ class PropertySheetWindow final : public SheetWindow {
                                     UINT_PTR, DWORD_PTR self) {
     auto* sheet = reinterpret_cast<PropertySheetWindow*>(self);
     if (sheet->OnMessage(message, wParam, lParam)) return 0;
-    return DefSubclassProc(window, message, wParam, lParam);
+    const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+    if (message == WM_DPICHANGED) sheet->OnDpiChanged();
+    return answer;
+  }
+
+  void OnDpiChanged() {
+    controls_->SetDpi(GetDpiForWindow(window_));
+    FitButtons(window_, ButtonWindows());
   }
 
   // True for what is not the system's business.
@@ -216,6 +254,9 @@ class PropertySheetWindow final : public SheetWindow {
       case WM_VSCROLL:
         RunEvent(
             [&] { sheet_.OnVScroll(static_cast<ScrollCode>(LOWORD(wParam)), HIWORD(wParam)); });
+        return true;
+      case kPlacePage:
+        PlacePage();
         return true;
       case WM_DESTROY:
         WakeModalLoop();
@@ -237,6 +278,7 @@ class PropertySheetWindow final : public SheetWindow {
   ModalEvents& events_;
   HWND owner_;
   unsigned dpi_;
+  std::optional<DisabledWindows> modal_{std::in_place};
   std::vector<std::unique_ptr<PageWindow>> pages_;
   HWND window_ = nullptr;
   std::optional<SheetControls> controls_;

@@ -30,7 +30,12 @@ HWND EditOf(HWND combo) {
 
 }  // namespace
 
-void WindowHands::Click(Clickable& control) { SendMessageW(WindowOf(control), BM_CLICK, 0, 0); }
+// A window that is not active may not take the click.
+void WindowHands::Click(Clickable& control) {
+  const HWND window = WindowOf(control);
+  SetActiveWindow(GetAncestor(window, GA_ROOT));
+  SendMessageW(window, BM_CLICK, 0, 0);
+}
 
 void WindowHands::Type(Edit& edit, const std::u16string& text) {
   ReplaceText(WindowOf(edit), text);
