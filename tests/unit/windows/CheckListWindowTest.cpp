@@ -212,8 +212,15 @@ TEST_F(CheckListWindowTest, AColumnIsAsWideAsItsListUnlessTheModelSaysOtherwise)
     const RECT place = PlaceOf(List());
     EXPECT_EQ(ListView_GetColumnWidth(List(), 0), place.right - place.left - 4);
   });
-  dialog.checkList.columnWidth = 60;
-  LookAt(dialog, [&] { EXPECT_EQ(ListView_GetColumnWidth(List(), 0), 60); });
+  dialog.checkList.columnWidth = 160;
+  LookAt(dialog, [&] { EXPECT_EQ(ListView_GetColumnWidth(List(), 0), 160); });
+}
+
+TEST_F(CheckListWindowTest, AColumnIsNeverNarrowerThanItsHeading) {
+  dialog.checkList.columnWidth = 20;
+  LookAt(dialog, [&] {
+    EXPECT_GT(ListView_GetColumnWidth(List(), 0), ListView_GetStringWidth(List(), L"Permissions"));
+  });
 }
 
 TEST_F(CheckListWindowTest, RowsAreSelectedWholeWhereTheModelSaysSo) {
