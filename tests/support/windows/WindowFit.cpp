@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/windows/DialogFont.h"
 #include "platform/Unicode.h"
 #include "platform/windows/Wide.h"
 #include "windows/ModalUser.h"
@@ -18,6 +19,8 @@ constexpr int kButtonSides = 2 * 4;
 constexpr int kHeadingSides = 2 * 8;
 constexpr int kColumnSides = 2 * 6;
 constexpr int kTabSides = 2 * 2;
+
+constexpr int kMargin = 7;  // in dialog units
 
 std::string Written(const Size& size) {
   return std::to_string(size.width) + " by " + std::to_string(size.height);
@@ -286,6 +289,12 @@ class Inspection {
 
 std::vector<std::string> FaultsOf(HWND parent, unsigned dpi, Size margin) {
   return Inspection(parent, dpi, margin).Faults();
+}
+
+std::vector<std::string> FaultsOfDialog(HWND dialog, unsigned dpi) {
+  const DialogFont font(dpi);
+  const FontMeasure measure(font.Handle(), dpi);
+  return FaultsOf(dialog, dpi, {measure.Horizontal(kMargin), measure.Vertical(kMargin)});
 }
 
 }  // namespace qutav::test

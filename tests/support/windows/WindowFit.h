@@ -15,4 +15,7 @@ namespace qutav::test {
 /// resolution the windows were made.
 std::vector<std::string> FaultsOf(HWND parent, unsigned dpi, Size margin);
 
+/// The same with the margin that every dialog and every page has.
+std::vector<std::string> FaultsOfDialog(HWND dialog, unsigned dpi);
+
 }  // namespace qutav::test

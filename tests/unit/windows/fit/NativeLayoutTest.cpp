@@ -15,9 +15,6 @@ namespace {
 
 using ::testing::IsEmpty;
 
-// Dialog units.
-constexpr int kMargin = 7;
-
 // Somewhere to put controls, never shown.
 class HiddenWindow {
  public:
@@ -37,12 +34,6 @@ class HiddenWindow {
  private:
   HWND window_;
 };
-
-Size Margin(unsigned dpi) {
-  const DialogFont font(dpi);
-  const FontMeasure measure(font.Handle(), dpi);
-  return {measure.Horizontal(kMargin), measure.Vertical(kMargin)};
-}
 
 // A language, and a resolution in dots per inch.
 using Screen = std::tuple<const char16_t*, unsigned>;
@@ -69,7 +60,7 @@ TEST_P(NativeLayoutTest, NothingIsCutAndNothingIsCovered) {
     window.Resize(size);
     controls.Arrange(size);
 
-    EXPECT_THAT(FaultsOf(window.Window(), dpi, Margin(dpi)), IsEmpty())
+    EXPECT_THAT(FaultsOfDialog(window.Window(), dpi), IsEmpty())
         << ToUtf8(dialog->ClassName()) << ", " << size.width << " by " << size.height;
   }
 }

@@ -14,7 +14,6 @@ namespace {
 
 using ::testing::IsEmpty;
 
-constexpr unsigned kDpi = 96;
 constexpr int kSide = 32;
 constexpr char16_t kInNoFont = u'\uE000';
 
@@ -45,7 +44,7 @@ class Canvas {
   }
 
  private:
-  DialogFont font_{kDpi};
+  DialogFont font_{96};
   HDC context_;
   HBITMAP bitmap_ = nullptr;
   const std::uint32_t* pixels_ = nullptr;

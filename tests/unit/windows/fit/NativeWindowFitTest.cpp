@@ -4,7 +4,6 @@
 
 #include "AllDialogs.h"
 #include "SheetTest.h"
-#include "framework/windows/DialogFont.h"
 #include "framework/windows/NativeFrontEnd.h"
 #include "win/InterfaceLanguage.h"
 #include "windows/ModalUser.h"
@@ -20,24 +19,16 @@ namespace {
 
 using ::testing::IsEmpty;
 
-// Dialog units.
-constexpr int kMargin = 7;
-constexpr int kSheetMargin = 2;
+constexpr int kSheetMargin = 3;  // in pixels at 96 DPI
 
-unsigned DpiOf(HWND window) { return GetDpiForWindow(window); }
-
-Size Margin(HWND window, int units) {
-  const DialogFont font(DpiOf(window));
-  const FontMeasure measure(font.Handle(), DpiOf(window));
-  return {measure.Horizontal(units), measure.Vertical(units)};
-}
-
-std::vector<std::string> FaultsOfDialog(HWND dialog) {
-  return FaultsOf(dialog, DpiOf(dialog), Margin(dialog, kMargin));
+std::vector<std::string> FaultsOfShown(HWND dialog) {
+  return FaultsOfDialog(dialog, GetDpiForWindow(dialog));
 }
 
 std::vector<std::string> FaultsOfSheet(HWND sheet) {
-  return FaultsOf(sheet, DpiOf(sheet), Margin(sheet, kSheetMargin));
+  const unsigned dpi = GetDpiForWindow(sheet);
+  const int margin = MulDiv(kSheetMargin, static_cast<int>(dpi), 96);
+  return FaultsOf(sheet, dpi, {margin, margin});
 }
 
 class NativeWindowFitTest : public SheetTest,
@@ -56,7 +47,7 @@ class NativeWindowFitTest : public SheetTest,
       EXPECT_THAT(FaultsOfSheet(sheet), IsEmpty());
       for (int i = 0; i < pages; ++i) {
         PropSheet_SetCurSel(sheet, nullptr, i);
-        EXPECT_THAT(FaultsOfDialog(PropSheet_GetCurrentPageHwnd(sheet)), IsEmpty()) << i;
+        EXPECT_THAT(FaultsOfShown(PropSheet_GetCurrentPageHwnd(sheet)), IsEmpty()) << i;
       }
       Press(sheet, IDCANCEL);
     });
@@ -78,7 +69,7 @@ TEST_P(NativeWindowFitTest, NothingIsCutInADialog) {
   for (const auto& dialog : DialogsAndPages()) {
     if (dynamic_cast<const CPropertyPage*>(dialog.get()) != nullptr) continue;
     const ModalUser user(AnyDialog(), [&](HWND window) {
-      EXPECT_THAT(FaultsOfDialog(window), IsEmpty()) << ToUtf8(dialog->ClassName());
+      EXPECT_THAT(FaultsOfShown(window), IsEmpty()) << ToUtf8(dialog->ClassName());
       PostMessageW(window, WM_CLOSE, 0, 0);
     });
     dialog->DoModal();
