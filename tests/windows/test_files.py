@@ -17,8 +17,8 @@ OBJDUMP = "x86_64-w64-mingw32-objdump"
 # What Windows itself brings.
 SYSTEM_LIBRARIES = {
     "advapi32.dll", "comctl32.dll", "comdlg32.dll", "gdi32.dll", "gdiplus.dll", "iphlpapi.dll",
-    "kernel32.dll", "msvcrt.dll", "ole32.dll", "shell32.dll", "shlwapi.dll", "user32.dll",
-    "uxtheme.dll", "ws2_32.dll",
+    "kernel32.dll", "msvcrt.dll", "ole32.dll", "shcore.dll", "shell32.dll", "shlwapi.dll",
+    "user32.dll", "uxtheme.dll", "ws2_32.dll",
 }
 MEGABYTE = 1_000_000
 
