@@ -75,6 +75,14 @@ INT_PTR PageWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DESTROY:
       controls_.reset();
       return FALSE;
+    // A field of several lines takes Esc and Tab itself, and knows no more than its page.
+    case WM_CLOSE:
+      PostMessageW(GetParent(controls_->Window()), WM_CLOSE, 0, 0);
+      return TRUE;
+    case WM_NEXTDLGCTL:
+      if (lParam != 0) return FALSE;
+      SendMessageW(GetParent(controls_->Window()), WM_NEXTDLGCTL, wParam, 0);
+      return TRUE;
     default:
       break;
   }
