@@ -17,9 +17,26 @@ class NativeGround {
 
   HWND Owner() const { return owner_.Window(); }
   NativeFrontEnd& FrontEnd() { return frontEnd_; }
+  /// The sheet that was shown last; null before the first one.
+  CPropertySheet* ShownSheet() const { return frontEnd_.sheet; }
+  /// What was to be opened in the browser.
+  const std::vector<std::u16string>& Links() const { return frontEnd_.links; }
 
  private:
-  NativeFrontEnd frontEnd_;
+  class WatchedFrontEnd : public NativeFrontEnd {
+   public:
+    using NativeFrontEnd::RunModal;
+    int RunModal(CPropertySheet& shown) override {
+      sheet = &shown;
+      return NativeFrontEnd::RunModal(shown);
+    }
+    void OpenLink(const std::u16string& url) override { links.push_back(url); }
+
+    CPropertySheet* sheet = nullptr;
+    std::vector<std::u16string> links;
+  };
+
+  WatchedFrontEnd frontEnd_;
   OwnerWindow owner_;
 };
 
@@ -40,6 +57,18 @@ int Use(CDialog& dialog, const ModalUser::Steps& steps);
 /// The same for a user who closes it after the steps.
 int LookAt(CDialog& dialog, ModalUser::Steps steps);
 int LookAt(CDialog& dialog, const std::function<void()>& look);
+
+/// Reads one message box of the product and presses OK.
+class BoxReader {
+ public:
+  std::u16string text;
+
+ private:
+  ModalUser user_{WindowTitled(u"Zenvoka Kestrow"), [this](HWND box) {
+                    text = TextOf(GetDlgItem(box, 0xFFFF));
+                    Press(box, IDOK);
+                  }};
+};
 
 /// Closes a window as its close box does.
 void Close(HWND window);

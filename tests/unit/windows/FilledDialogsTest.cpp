@@ -21,18 +21,6 @@ ModalUser::Steps Filling(const std::vector<std::u16string>& texts) {
   return steps;
 }
 
-// Reads one message box and presses OK.
-class BoxReader {
- public:
-  std::u16string text;
-
- private:
-  ModalUser user_{WindowTitled(u"Zenvoka Kestrow"), [this](HWND box) {
-                    text = TextOf(GetDlgItem(box, 0xFFFF));
-                    Press(box, IDOK);
-                  }};
-};
-
 // --- Certificate ---------------------------------------------------------------------------------
 
 class CertificateWindowTest : public PackagingTest {
