@@ -6,12 +6,12 @@
 namespace qutav::test {
 namespace {
 
-/// A screen without room for the whole sheet, for as long as this lives.
+/// A lower screen, for as long as this lives; by default without room for the whole sheet.
 class SmallWorkArea {
  public:
-  SmallWorkArea() {
+  explicit SmallWorkArea(int bottom = kBottom) {
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &before_, 0);
-    RECT area{0, 0, 1024, kBottom};
+    RECT area{0, 0, 1024, bottom};
     SystemParametersInfoW(SPI_SETWORKAREA, 0, &area, 0);
   }
   ~SmallWorkArea() { SystemParametersInfoW(SPI_SETWORKAREA, 0, &before_, 0); }
@@ -75,6 +75,15 @@ TEST_F(SheetScrollWindowTest, ASheetThatFitsHasNoScrollBar) {
 
     Wheel(-120);
     EXPECT_FALSE(StyleOf(Window()) & WS_VSCROLL);
+  });
+}
+
+TEST_F(SheetScrollWindowTest, TheSheetFitsAScreenOf1024By600) {
+  const SmallWorkArea area(600);
+
+  LookAtSheet([&] {
+    EXPECT_FALSE(StyleOf(Window()) & WS_VSCROLL);
+    EXPECT_LE(PlaceOf(Window()).bottom - PlaceOf(Window()).top, 600);
   });
 }
 
