@@ -69,9 +69,6 @@ INT_PTR PageWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       controls_->SetDpi(dpi_);
       FillWindow();
       return TRUE;
-    case WM_CLOSE:  // a field of several lines sends it at Esc
-      PostMessageW(GetParent(controls_->Window()), WM_CLOSE, 0, 0);
-      return TRUE;
     case WM_DESTROY:
       controls_.reset();
       return FALSE;
