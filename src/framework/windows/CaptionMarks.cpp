@@ -64,6 +64,16 @@ class Captions {
   }
 };
 
+// An "&" is drawn as the line under the letter behind it.
+std::u16string AsDrawn(const std::u16string& marked) {
+  std::u16string text;
+  for (std::size_t i = 0; i < marked.size(); ++i) {
+    if (marked[i] == u'&' && i + 1 < marked.size()) ++i;
+    text += marked[i];
+  }
+  return text;
+}
+
 }  // namespace
 
 CaptionMarks::CaptionMarks(const CDialog& dialog) {
@@ -72,7 +82,7 @@ CaptionMarks::CaptionMarks(const CDialog& dialog) {
   const std::vector<std::u16string> marked = WithMnemonics(all.captions);
   for (std::size_t i = 0; i < marked.size(); ++i) {
     bySerial_[all.controls[i]->serial] = marked[i];
-    byText_[all.captions[i].text] = WithoutMnemonic(marked[i]);
+    byText_[all.captions[i].text] = AsDrawn(marked[i]);
   }
 }
 
