@@ -3,6 +3,7 @@
 #include "SheetTest.h"
 #include "TranslatedTexts.h"
 #include "framework/MessageBoxes.h"
+#include "framework/Mnemonics.h"
 #include "framework/windows/NativeFrontEnd.h"
 #include "framework/windows/OpenWindows.h"
 #include "packaging/DocumentDescriptor.h"
@@ -20,25 +21,11 @@ namespace {
 using ::testing::Contains;
 using ::testing::IsSupersetOf;
 
-// A caption as it is read: without the marks of its mnemonic, "&Name" or "Name(&N)".
-std::u16string AsRead(const std::u16string& shown) {
-  std::u16string text;
-  for (std::size_t i = 0; i < shown.size(); ++i) {
-    if (shown.substr(i, 2) == u"(&" && shown.substr(i + 3, 1) == u")") {
-      i += 3;
-    } else {
-      if (shown[i] == u'&') ++i;
-      text += shown.substr(i, 1);
-    }
-  }
-  return text;
-}
-
 // What a user reads in a control or beside it.
 std::u16string ShownFor(const Control& control) {
   const ControlBinder* binder = OpenWindows::BinderOf(control);
   const HWND caption = binder->CaptionWindow();
-  return AsRead(TextOf(caption != nullptr ? caption : binder->Window()));
+  return WithoutMnemonic(TextOf(caption != nullptr ? caption : binder->Window()));
 }
 
 // The icons page writes the chosen icon's size itself, in figures.
@@ -53,7 +40,7 @@ std::vector<std::u16string> TextsIn(HWND window) {
   std::vector<std::u16string> texts;
   for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
        child = GetWindow(child, GW_HWNDNEXT)) {
-    texts.push_back(AsRead(TextOf(child)));
+    texts.push_back(WithoutMnemonic(TextOf(child)));
   }
   return texts;
 }
