@@ -35,6 +35,7 @@ class WindowContext {
 
 bool WriteWindowPicture(HWND window, const std::string& path) {
   SetActiveWindow(window);
+  SendMessageW(window, WM_NCACTIVATE, TRUE, 0);  // whichever program is in front
   RedrawWindow(window, nullptr, nullptr,
                RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
   RECT rect{};

@@ -7,8 +7,8 @@
 
 namespace qutav {
 
-/// Every control of a dialog that is shown. Texts, rows, marks and states are the windows'; what has
-/// no form in a window, such as an image, is the model's.
+/// Every control of a dialog that is shown. Texts, rows, marks and states are the windows'; what
+/// has no form in a window, such as an image, is the model's.
 nlohmann::ordered_json RecordWindows(const CDialog& dialog);
 
 }  // namespace qutav
