@@ -1,6 +1,8 @@
 #include "framework/windows/ModalLoop.h"
 
 #include "framework/windows/OpenWindows.h"
+// behind the system's own header
+#include <commctrl.h>
 
 namespace qutav {
 namespace {
@@ -23,9 +25,26 @@ void Cancel(CDialog& dialog) {
   if (!dialog.HasEnded()) dialog.EndDialog(kIdCancel);
 }
 
+bool IsPressable(HWND window) {
+  wchar_t name[8] = {};
+  GetClassNameW(window, name, 8);
+  const LONG kind = GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK;
+  return lstrcmpiW(name, WC_BUTTONW) == 0 &&
+         (kind == BS_PUSHBUTTON || kind == BS_DEFPUSHBUTTON || kind == BS_OWNERDRAW);
+}
+
+// Some systems give Enter to a sheet's default button though a button of a page has the focus, and
+// all of them when that button draws itself.
+bool PressButtonByEnter(const MSG& message) {
+  if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN) return false;
+  if (!IsPressable(message.hwnd)) return false;
+  SendMessageW(message.hwnd, BM_CLICK, 0, 0);
+  return true;
+}
+
 void Deliver(MSG& message, const KeyFilter& isDialogKey) {
   OpenWindows::PreTranslate(message);
-  if (isDialogKey(message)) return;
+  if (PressButtonByEnter(message) || isDialogKey(message)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);
 }

@@ -1,6 +1,7 @@
 #include "framework/windows/PictureBinders.h"
 
 #include <tuple>
+#include <utility>
 
 // behind the system's own header
 #include <objidl.h>
@@ -51,9 +52,10 @@ void PictureBinder::Repaint() const {
   }
 }
 
-// Drawn aside first, or it would flicker.
+// What a handler has just painted is shown as it is; any other drawing is a paint of the dialog. It
+// is drawn aside first, or it would flicker.
 void PictureBinder::OnDrawItem(const DRAWITEMSTRUCT& item) {
-  Repaint();
+  if (!std::exchange(changedByModel_, false)) Repaint();
   Gdiplus::Bitmap canvas(item.rcItem.right, item.rcItem.bottom, PixelFormat32bppPARGB);
   Gdiplus::Graphics aside(&canvas);
   aside.Clear(Gdiplus::Color(picture_.Background()));
@@ -62,6 +64,7 @@ void PictureBinder::OnDrawItem(const DRAWITEMSTRUCT& item) {
   shownBackground_ = picture_.Background();
   shownImage_ = picture_.Painted();
   shownTarget_ = picture_.Target();
+  drawn_ = true;
 }
 
 void PictureBinder::Show() {
@@ -69,6 +72,7 @@ void PictureBinder::Show() {
       IsSame(shownTarget_, picture_.Target())) {
     return;
   }
+  changedByModel_ = drawn_;
   InvalidateRect(Window(), nullptr, FALSE);
 }
 

@@ -23,6 +23,8 @@ class PictureBinder final : public ControlBinder {
   std::uint32_t shownBackground_ = 0;
   std::shared_ptr<const Image> shownImage_;
   Rectangle shownTarget_;
+  bool drawn_ = false;
+  bool changedByModel_ = false;
 };
 
 class ProgressBarBinder final : public ControlBinder {

@@ -34,15 +34,6 @@ unsigned DpiOfMonitor(HWND owner) {
   return SUCCEEDED(GetDpiForMonitor(monitor, MDT_EFFECTIVE_DPI, &x, &y)) ? x : GetDpiForSystem();
 }
 
-// Some systems give Enter to the sheet's default button though a button of a page has the focus.
-bool PressButtonByEnter(const MSG& message) {
-  if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN) return false;
-  const LRESULT kind = SendMessageW(message.hwnd, WM_GETDLGCODE, 0, 0);
-  if ((kind & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) == 0) return false;
-  SendMessageW(message.hwnd, BM_CLICK, 0, 0);
-  return true;
-}
-
 // The sheet's own buttons: those that the system made, and what the model puts beside them.
 class SheetControls final : public ControlHost {
  public:
@@ -94,7 +85,7 @@ class PropertySheetWindow final : public SheetWindow {
     Show();
     events_.OnShown();
     RunModalLoop(window_, sheet_, [this](MSG& message) {
-      return PressButtonByEnter(message) || PropSheet_IsDialogMessage(window_, &message) != FALSE;
+      return PropSheet_IsDialogMessage(window_, &message) != FALSE;
     });
   }
 
@@ -247,10 +238,8 @@ class PropertySheetWindow final : public SheetWindow {
     return answer;
   }
 
-  void OnDpiChanged() {
-    controls_->SetDpi(GetDpiForWindow(window_));
-    FitButtons(window_, ButtonWindows());
-  }
+  // The system has given its own buttons another font; ours keeps the stock one.
+  void OnDpiChanged() { FitButtons(window_, ButtonWindows()); }
 
   // True for what is not the system's business.
   bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
