@@ -76,6 +76,8 @@ def wine(prefix, environment, dpi):
         yield
     except subprocess.TimeoutExpired as late:
         refuse(f"Wine does not answer: {late}")
+    except subprocess.CalledProcessError as failed:
+        refuse(f"Wine does not keep a setting: {failed}")
     finally:
         subprocess.run(["wineserver", "-k"], env=environment, check=False, capture_output=True)
         if keeper is not None:

@@ -45,10 +45,19 @@ std::optional<std::string> ReadWhole(HANDLE file) {
   return bytes;
 }
 
+bool IsBareDrive(const std::u16string& path) { return path.size() == 2 && path[1] == u':'; }
+
+// A search would take it for the folder that is current on the drive.
+std::optional<FoundFile> FindRoot(const std::u16string& drive) {
+  if (GetFileAttributesW(Wide(drive + u"\\")) == INVALID_FILE_ATTRIBUTES) return {};
+  return FoundFile{drive, {}};
+}
+
 class WindowsFiles final : public Files {
  public:
   std::optional<FoundFile> Find(const std::u16string& path) override {
     if (path.empty() || EndsInSeparator(path)) return {};
+    if (IsBareDrive(path)) return FindRoot(path);
     WIN32_FIND_DATAW data{};
     const HANDLE search = FindFirstFileW(Wide(NativePath(path)), &data);
     if (search == INVALID_HANDLE_VALUE) return {};
@@ -86,9 +95,7 @@ class WindowsFiles final : public Files {
            ERROR_SUCCESS;
   }
 
-  bool IsRooted(const std::u16string& path) const override {
-    return path.find(u':') != path.npos || path.starts_with(u"\\\\");
-  }
+  bool IsRooted(const std::u16string& path) const override { return path.find(u':') != path.npos; }
 
   std::string_view LineEnd() const override { return "\r\n"; }
 };

