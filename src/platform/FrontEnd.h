@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -81,6 +82,8 @@ class FrontEnd {
   /// The width of a text in a control's font, and of that font's average character, in pixels.
   virtual int TextWidth(const Control& control, const std::u16string& text) = 0;
   virtual int AverageCharacterWidth(const Control& control) = 0;
+  /// Makes a call in which the host may show windows of its own, also from within a dialog of ours.
+  virtual void CallHost(const std::function<void()>& call) { call(); }
   /// Brings a dialog's controls to the screen as they stand now (`UpdateWindow`).
   virtual void Repaint(CDialog& dialog) = 0;
   /// The rectangle of the active window and of the desktop, in pixels.

@@ -1,5 +1,7 @@
 #include "win/HostScript.h"
 
+#include "platform/Services.h"
+
 namespace qutav {
 namespace {
 
@@ -25,9 +27,11 @@ HostResult EvaluateHostScript(const HostCallContext& call, const std::u16string&
   const auto evaluate = HostEnvironment.EvaluateScript();
   if (evaluate == nullptr) return result;
   const std::u16string text(script.c_str());
-  result.status =
-      evaluate(call.context, call.object, text.c_str(), static_cast<std::uint32_t>(text.size()),
-               kSourceName, __LINE__, &result.value);
+  TheServices().frontEnd->CallHost([&] {
+    result.status =
+        evaluate(call.context, call.object, text.c_str(), static_cast<std::uint32_t>(text.size()),
+                 kSourceName, __LINE__, &result.value);
+  });
   return result;
 }
 

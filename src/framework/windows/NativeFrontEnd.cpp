@@ -99,6 +99,11 @@ int NativeFrontEnd::AverageCharacterWidth(const Control& control) {
   return Measure(control, std::mem_fn(&FontMeasure::AverageCharacterWidth));
 }
 
+void NativeFrontEnd::CallHost(const std::function<void()>& call) {
+  const HostScope scope;
+  call();
+}
+
 void NativeFrontEnd::Repaint(CDialog& dialog) {
   OpenWindows::Update();
   if (const ControlHost* host = OpenWindows::HostOf(dialog)) {

@@ -17,6 +17,7 @@ class NativeFrontEnd : public FrontEnd {
   void OpenLink(const std::u16string& url) override;
   int TextWidth(const Control& control, const std::u16string& text) override;
   int AverageCharacterWidth(const Control& control) override;
+  void CallHost(const std::function<void()>& call) override;
   void Repaint(CDialog& dialog) override;
   Rectangle ActiveWindowRectangle() override;
   Rectangle DesktopRectangle() override;

@@ -3,6 +3,9 @@
 namespace qutav {
 namespace {
 
+// What the thread had before the outermost scope; null outside of all.
+thread_local DPI_AWARENESS_CONTEXT hostAwareness = nullptr;
+
 // Where a library's manifest stands among its resources, and a program's.
 const WCHAR* ManifestOf(HINSTANCE module) {
   const bool isProgram = module == GetModuleHandleW(nullptr);
@@ -29,15 +32,29 @@ HINSTANCE OurModule() {
 }
 
 WindowScope::WindowScope()
-    : hostAwareness_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2)),
+    : formerAwareness_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2)),
+      isOutermost_(hostAwareness == nullptr),
       context_(OurContext()) {
+  if (isOutermost_) hostAwareness = formerAwareness_;
   if (context_ != INVALID_HANDLE_VALUE) ActivateActCtx(context_, &cookie_);
 }
 
 WindowScope::~WindowScope() {
   if (cookie_ != 0) DeactivateActCtx(0, cookie_);
   if (context_ != INVALID_HANDLE_VALUE) ReleaseActCtx(context_);
-  if (hostAwareness_ != nullptr) SetThreadDpiAwarenessContext(hostAwareness_);
+  if (isOutermost_) hostAwareness = nullptr;
+  if (formerAwareness_ != nullptr) SetThreadDpiAwarenessContext(formerAwareness_);
+}
+
+HostScope::HostScope() {
+  if (hostAwareness == nullptr) return;
+  ours_ = SetThreadDpiAwarenessContext(hostAwareness);
+  ActivateActCtx(nullptr, &cookie_);
+}
+
+HostScope::~HostScope() {
+  if (cookie_ != 0) DeactivateActCtx(0, cookie_);
+  if (ours_ != nullptr) SetThreadDpiAwarenessContext(ours_);
 }
 
 }  // namespace qutav

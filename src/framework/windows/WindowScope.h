@@ -22,8 +22,23 @@ class WindowScope {
 
  private:
   GdiPlusSession gdiPlus_;
-  DPI_AWARENESS_CONTEXT hostAwareness_;
+  DPI_AWARENESS_CONTEXT formerAwareness_;
+  bool isOutermost_;
   HANDLE context_;
+  ULONG_PTR cookie_ = 0;
+};
+
+/// Inside a scope, gives the thread the host's own look and resolution again for as long as this
+/// lives: for what the host shows when we call it.
+class HostScope {
+ public:
+  HostScope();
+  ~HostScope();
+  HostScope(const HostScope&) = delete;
+  HostScope& operator=(const HostScope&) = delete;
+
+ private:
+  DPI_AWARENESS_CONTEXT ours_ = nullptr;
   ULONG_PTR cookie_ = 0;
 };
 
