@@ -19,8 +19,6 @@ using Candidates = std::vector<Candidate>;
 
 constexpr std::size_t kBehind = std::u16string::npos;
 
-bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
 // Without the signs and the vowel with which no word begins.
 bool IsCyrillic(char16_t unit) {
   constexpr std::u16string_view kNeverFirst = u"\u042A\u042B\u042C\u044A\u044B\u044C";

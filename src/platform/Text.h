@@ -23,6 +23,9 @@ std::u16string ToDecimal(std::int64_t number);
 /// it, anything else gives 0, and a number out of range gives the nearest in range.
 int ParseDecimal(std::u16string_view text);
 
+/// One of the ten ASCII digits.
+constexpr bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+
 /// ASCII letters in lower case, all else as it stands.
 std::u16string ToLowerAscii(std::u16string_view text);
 

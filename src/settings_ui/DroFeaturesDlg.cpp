@@ -14,7 +14,7 @@ namespace qutav {
 namespace {
 
 // Dialog units.
-constexpr int kTextWidth = 260;
+constexpr int kListWidth = 260;
 
 bool IsManualMode() {
   return EqualsIgnoringCase(SettingsGet(keys::kIgnoreManifestAdditions), u"true");
@@ -41,8 +41,8 @@ CDroFeaturesDlg::CDroFeaturesDlg()
   description_->style = EditStyle::kReadOnlyLines;
   manual_->onClick = [this] { OnManualClicked(); };
   list_->onChange = [this] { OnListChanged(); };
-  SetLayout(Column({Wrapped(*manual_, kTextWidth),
-                    Column({Wrapped(invitation, kTextWidth), List(*list_, 9, kTextWidth)}),
+  SetLayout(Column({Wrapped(*manual_, kListWidth),
+                    Column({Wrapped(invitation, kListWidth), List(*list_, 9, kListWidth)}),
                     Above(*description_, Lines(*description_, 4))},
                    kUnrelated));
 }

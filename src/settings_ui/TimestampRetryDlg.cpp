@@ -7,7 +7,7 @@ namespace qutav {
 namespace {
 
 // Dialog units.
-constexpr int kTextWidth = 240;
+constexpr int kQuestionWidth = 240;
 
 }  // namespace
 
@@ -29,7 +29,7 @@ CTimestampRetryDlg::CTimestampRetryDlg(WindowHandle parent)
   retry.onClick = [this] { EndDialog(kRetry); };
   auto& cancel = Add<Button>(u"Cancel", texts::kTimestampCancel);
   cancel.onClick = [this] { OnCancel(); };
-  SetLayout(Column({Wrapped(error, kTextWidth), Wrapped(consequence, kTextWidth),
+  SetLayout(Column({Wrapped(error, kQuestionWidth), Wrapped(consequence, kQuestionWidth),
                     Row({disable, Buttons({retry, cancel})})},
                    kUnrelated));
 }

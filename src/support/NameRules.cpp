@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/Text.h"
+
 namespace qutav {
 namespace {
 
 constexpr std::size_t kLongestId = 212;
 constexpr std::size_t kLongestFileTypeText = 38;
-
-bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
 bool IsLetterOrDigit(char16_t unit) {
   return IsDigit(unit) || (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');

@@ -17,7 +17,7 @@ using layout::FormLine;
 // Dialog units.
 constexpr int kCaptionGap = 3;  // between a caption and what is below it, or a picture above it
 constexpr int kFrame = 7;
-constexpr int kHeading = 11;  // from the top of a frame to what is in it
+constexpr int kFrameHeading = 11;  // from the top of a frame to what is in it
 
 class CaptionPart final : public LayoutPart {
  public:
@@ -118,7 +118,7 @@ class GroupPart final : public LayoutPart {
   }
   int Height(const LayoutMeasure& measure, int width) const override {
     const int inside = width - 2 * measure.Horizontal(kFrame);
-    return measure.Vertical(kHeading) + content_.Part().Height(measure, inside) +
+    return measure.Vertical(kFrameHeading) + content_.Part().Height(measure, inside) +
            measure.Vertical(kFrame);
   }
   int LineHeight(const LayoutMeasure& measure) const override {
@@ -131,7 +131,7 @@ class GroupPart final : public LayoutPart {
     const int side = measure.Horizontal(kFrame);
     placement.Put(box_, area);
     content_.Part().Place(measure,
-                          {area.left + side, area.top + measure.Vertical(kHeading),
+                          {area.left + side, area.top + measure.Vertical(kFrameHeading),
                            area.right - side, area.bottom - measure.Vertical(kFrame)},
                           placement);
   }

@@ -5,14 +5,14 @@
 namespace qutav {
 namespace {
 
-// A line may break behind each of these.
-bool IsEastAsian(char16_t unit) { return unit >= 0x2E80 && unit < 0xD800; }
+// Kana, ideographs and the like: a line may break behind each of them.
+bool MayBreakBehind(char16_t unit) { return unit >= 0x2E80 && unit < 0xD800; }
 
 std::u16string::size_type EndOfWord(const std::u16string& text, std::u16string::size_type begin) {
   auto end = begin;
-  while (end < text.size() && text[end] != u' ' && !IsEastAsian(text[end])) ++end;
-  const bool endsInEastAsian = end < text.size() && text[end] != u' ';
-  return endsInEastAsian ? end + 1 : end;
+  while (end < text.size() && text[end] != u' ' && !MayBreakBehind(text[end])) ++end;
+  const bool breaksBehind = end < text.size() && text[end] != u' ';
+  return breaksBehind ? end + 1 : end;
 }
 
 int WidestWord(const LayoutMeasure& measure, const std::u16string& text) {
