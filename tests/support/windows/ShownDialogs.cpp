@@ -2,6 +2,7 @@
 
 #include "framework/CPropertySheet.h"
 #include "framework/windows/OpenWindows.h"
+#include "windows/UserInput.h"
 
 namespace qutav::test {
 
@@ -29,6 +30,17 @@ int LookAt(CDialog& dialog, ModalUser::Steps steps) {
 
 int LookAt(CDialog& dialog, const std::function<void()>& look) {
   return LookAt(dialog, ModalUser::Steps{[&](HWND) { look(); }});
+}
+
+ModalUser::Steps Filling(const std::vector<std::u16string>& texts) {
+  ModalUser::Steps steps;
+  for (const std::u16string& text : texts) {
+    steps.push_back([text](HWND) {
+      TypeText(text);
+      Strike(VK_TAB);
+    });
+  }
+  return steps;
 }
 
 void Close(HWND window) { PostMessageW(window, WM_CLOSE, 0, 0); }

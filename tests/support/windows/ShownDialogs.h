@@ -70,6 +70,10 @@ class BoxReader {
                   }};
 };
 
+/// The steps of a user who fills fields, from the one with the focus on, and ends on the one behind
+/// them.
+ModalUser::Steps Filling(const std::vector<std::u16string>& texts);
+
 /// Closes a window as its close box does.
 void Close(HWND window);
 /// Clicks a button's window.

@@ -9,18 +9,6 @@
 namespace qutav::test {
 namespace {
 
-// Fills fields from the one with the focus on, each a step behind the one before.
-ModalUser::Steps Filling(const std::vector<std::u16string>& texts) {
-  ModalUser::Steps steps;
-  for (const std::u16string& text : texts) {
-    steps.push_back([text](HWND) {
-      TypeText(text);
-      Strike(VK_TAB);
-    });
-  }
-  return steps;
-}
-
 // --- Certificate ---------------------------------------------------------------------------------
 
 class CertificateWindowTest : public PackagingTest {
