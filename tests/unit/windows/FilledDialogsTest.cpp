@@ -21,6 +21,20 @@ class CertificateWindowTest : public PackagingTest {
     };
   }
 
+  static WantedWindow Box(const std::u16string& text) {
+    return {"a box \"" + ToUtf8(text) + "\"",
+            [text](HWND window) { return TextOf(GetDlgItem(window, 0xFFFF)) == text; }};
+  }
+  static WantedWindow OverwriteQuestion() {
+    return Box(u"The certificate file exists. Do you want to overwrite it?");
+  }
+  static ModalUser::Steps FillingForOverwrite() {
+    ModalUser::Steps steps = Filling({u"a", u"b", u"c", u"DE", u"secret", u"secret", u"30"});
+    steps.push_back([](HWND) { TypeText(u"C:\\k\\new.p12"); });
+    steps.push_back([](HWND) { Strike(VK_RETURN); });
+    return steps;
+  }
+
   NativeGround ground;
   CSelfSignDlg dialog{nullptr};
 };
@@ -69,6 +83,36 @@ TEST_F(CertificateWindowTest, TheEndingThatIsAddedIsShown) {
   LookAt(dialog, steps);
 
   EXPECT_EQ(box.text, u"Password entries do not match. Please re-enter them.");
+}
+
+TEST_F(CertificateWindowTest, AnOverwriteThatIsDeclinedRunsNothingAndTheFieldsStay) {
+  files.Put(u"C:\\k\\new.p12");
+  ModalUser::Steps steps = FillingForOverwrite();
+  steps.push_back([&](HWND) {
+    EXPECT_FALSE(dialog.HasEnded());
+    EXPECT_EQ(TextOf(WindowOf(Find<Edit>(dialog, u"Save as:"))), u"C:\\k\\new.p12");
+  });
+  const ModalUser decliner(OverwriteQuestion(), [&](HWND box) {
+    EXPECT_EQ(GetWindow(box, GW_OWNER), WindowOf(dialog));
+    Press(box, IDCANCEL);
+  });
+
+  EXPECT_EQ(LookAt(dialog, steps), kIdCancel);
+
+  EXPECT_TRUE(processes.CommandLines().empty());
+  EXPECT_FALSE(SettingsMap.contains(keys::kCertificatePath));
+}
+
+TEST_F(CertificateWindowTest, AnOverwriteThatIsAcceptedMakesTheCertificate) {
+  files.Put(u"C:\\k\\new.p12");
+  const ModalUser accepter(OverwriteQuestion(), [](HWND box) { Press(box, IDOK); });
+  const ModalUser reader(Box(u"Self-signed certificate has been created."),
+                         [](HWND box) { Press(box, IDOK); });
+
+  EXPECT_EQ(Use(dialog, FillingForOverwrite()), kIdOk);
+
+  EXPECT_EQ(processes.CommandLines().size(), 1u);
+  EXPECT_EQ(SettingsGet(keys::kCertificatePath), u"C:/k/new.p12");
 }
 
 TEST_F(CertificateWindowTest, TheTypeIsShownAndCannotBeChosen) {
