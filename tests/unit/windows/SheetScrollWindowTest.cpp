@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "windows/SheetWindowTest.h"
+#include "windows/UserInput.h"
 
 namespace qutav::test {
 namespace {
@@ -51,6 +52,11 @@ class SheetScrollWindowTest : public SheetWindowTest {
     RECT tabs = PlaceOf(Tabs());
     MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&tabs), 2);
     return static_cast<int>(tabs.top) - top_;
+  }
+  POINT FromTabsTo(const CPropertyPage& page) {
+    const RECT tabs = PlaceOf(Tabs());
+    const RECT place = PlaceOf(WindowOf(page));
+    return {place.left - tabs.left, place.top - tabs.top};
   }
   void LookAtSmall(const std::function<void()>& look) {
     const SmallWorkArea area;
@@ -154,6 +160,46 @@ TEST_F(SheetScrollWindowTest, TheWheelOverAPageScrollsTheSheet) {
 
     ExpectAt(10);
   });
+}
+
+// The first page shows where pages stand below the tabs.
+TEST_F(SheetScrollWindowTest, APageThatIsTurnedToWhileTheSheetIsScrolledStandsBelowItsTabs) {
+  const SmallWorkArea area;
+  POINT before{};
+  LookAtSheet({[&](HWND) {
+                 before = FromTabsTo(Page(0));
+                 Scroll(SB_LINEDOWN);
+                 RunEvent([&] { Sheet().SetActivePage(1); });
+               },
+               [&](HWND) {
+                 EXPECT_EQ(Bar().nPos, 25);
+                 EXPECT_EQ(FromTabsTo(Page(1)).x, before.x);
+                 EXPECT_EQ(FromTabsTo(Page(1)).y, before.y);
+                 StrikeWith(VK_CONTROL, VK_TAB);
+               },
+               [&](HWND) {
+                 EXPECT_EQ(Sheet().GetActiveIndex(), 2);
+                 EXPECT_EQ(FromTabsTo(Page(2)).x, before.x);
+                 EXPECT_EQ(FromTabsTo(Page(2)).y, before.y);
+               }});
+}
+
+TEST_F(SheetScrollWindowTest, APageThatIsTurnedToFarDownIsInViewAfterScrollingBack) {
+  const SmallWorkArea area;
+  POINT before{};
+  LookAtSheet({[&](HWND) {
+                 before = FromTabsTo(Page(0));
+                 Scroll(SB_BOTTOM);
+                 RunEvent([&] { Sheet().SetActivePage(2); });
+               },
+               [&](HWND) {
+                 Scroll(SB_TOP);
+                 RunEvent([&] { Sheet().SetActivePage(0); });
+               },
+               [&](HWND) {
+                 EXPECT_EQ(FromTabsTo(Page(0)).y, before.y);
+                 EXPECT_GT(PlaceOf(WindowOf(Page(0))).top, PlaceOf(Window()).top);
+               }});
 }
 
 TEST_F(SheetScrollWindowTest, TheButtonsCanBeScrolledIntoView) {
