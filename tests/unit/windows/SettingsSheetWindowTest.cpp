@@ -1,5 +1,8 @@
 // The settings sheet in its window: pages, buttons, ends.
+#include "TranslatedTexts.h"
 #include "settings_ui/DialogTexts.h"
+#include "settings_ui/PublishEntry.h"
+#include "win/InterfaceLanguage.h"
 #include "windows/SheetWindowTest.h"
 #include "windows/UserInput.h"
 
@@ -178,10 +181,11 @@ TEST_F(SettingsSheetWindowTest, HelpOpensItsLink) {
 }
 
 TEST_F(SettingsSheetWindowTest, TheCaptionsOfItsButtonsFitInEveryLanguage) {
-  for (const int id : {1028, 1029, 1031, 1033, 1034, 1036, 1040, 1041, 1042, 1043, 1045, 1046, 1049,
-                       1053, 1055, 2052}) {
-    language.SetThreadInterfaceLanguage(static_cast<LanguageId>(id));
+  for (const TranslatedTexts& texts : kTranslatedTexts) {
+    const std::string code = ToUtf8(texts.code);
+    language.SetThreadInterfaceLanguage(LanguageIdForCode(texts.code));
     LookAtSheet([&] {
+      EXPECT_EQ(TextOf(Button(IDCANCEL)), texts.cancel) << code;
       for (const int button : {IDOK, IDCANCEL, kPublish, kIdHelp}) {
         const HWND window = Button(button);
         const std::u16string text = TextOf(window);
@@ -194,9 +198,9 @@ TEST_F(SettingsSheetWindowTest, TheCaptionsOfItsButtonsFitInEveryLanguage) {
         SelectObject(context, former);
         ReleaseDC(window, context);
         const RECT place = PlaceOf(window);
-        EXPECT_LT(size.cx, place.right - place.left) << id << " " << ToUtf8(text);
+        EXPECT_LT(size.cx, place.right - place.left) << code << " " << ToUtf8(text);
       }
-      EXPECT_GE(PlaceOf(Button(IDOK)).left, PlaceOf(Window()).left) << id;
+      EXPECT_GE(PlaceOf(Button(IDOK)).left, PlaceOf(Window()).left) << code;
     });
   }
 }
@@ -213,6 +217,21 @@ TEST_F(SettingsSheetWindowTest, PublishWithoutACertificateShowsItsMessageOverThe
                }});
 
   EXPECT_FALSE(box.text.empty());
+}
+
+TEST_F(SettingsSheetWindowTest, APublishWithoutACertificateOpensTheSheetOnTheDeploymentPage) {
+  SettingsRemove(keys::kCertificatePath);
+  const ModalUser user(AnyDialog(), {[&](HWND sheet) {
+                                       EXPECT_EQ(TextOf(sheet), u"TAV for Android Settings");
+                                       ExpectInFront(1);
+                                       EXPECT_THAT(CreatedPages(),
+                                                   ElementsAre(false, true, false, false, false));
+                                     },
+                                     [](HWND) { Strike(VK_ESCAPE); }});
+
+  EXPECT_EQ(PublishEntry(), 0);
+
+  EXPECT_TRUE(PackagerCommands().empty());
 }
 
 // --- Ends ----------------------------------------------------------------------------------------
