@@ -193,6 +193,16 @@ TEST_F(CheckListWindowTest, ADisabledListTakesNoClick) {
                   [&](HWND) { EXPECT_FALSE(dialog.checkList.IsChecked(1)); }});
 }
 
+TEST_F(CheckListWindowTest, ItIsATableOfOneColumnWithBoxesAndGridLines) {
+  LookAt(dialog, [&] {
+    EXPECT_EQ(StyleOf(List()) & LVS_TYPEMASK, static_cast<DWORD>(LVS_REPORT));
+    EXPECT_EQ(Header_GetItemCount(ListView_GetHeader(List())), 1);
+    const DWORD style = ListView_GetExtendedListViewStyle(List());
+    EXPECT_TRUE(style & LVS_EX_GRIDLINES);
+    EXPECT_TRUE(style & LVS_EX_CHECKBOXES);
+  });
+}
+
 TEST_F(CheckListWindowTest, TheHeadingAndTheNameForScreenReadersAreTheCaption) {
   LookAt(dialog, [&] {
     wchar_t heading[50] = {};
