@@ -146,6 +146,21 @@ TEST_F(DrawnControlsTest, AnImageButtonIsClickedByTheMouseAndTheSpaceBar) {
                   [&](HWND) { EXPECT_EQ(clicks, 2); }});
 }
 
+TEST_F(DrawnControlsTest, EnterPressesTheImageButtonWithTheFocusAndNotTheDefaultOne) {
+  int clicks = 0;
+  dialog.browse.onClick = [&] { ++clicks; };
+
+  EXPECT_EQ(LookAt(dialog, {[&](HWND) {
+                              SetFocus(Browse());
+                              Strike(VK_RETURN);
+                            },
+                            [&](HWND) {
+                              EXPECT_EQ(clicks, 1);
+                              EXPECT_FALSE(dialog.HasEnded());
+                            }}),
+            kIdCancel);
+}
+
 TEST_F(DrawnControlsTest, AnImageButtonTellsItsCaptionToScreenReadersAndInATooltip) {
   LookAt(dialog, [&] {
     EXPECT_EQ(TextOf(Browse()), u"Browse");
@@ -200,6 +215,24 @@ TEST_F(DrawnControlsTest, AnImageThatAHandlerPaintsOrClearsIsShownSo) {
 
     RunEvent([&] { dialog.picture.Clear(kWhite); });
     EXPECT_EQ(WindowPixels(WindowOf(dialog.picture)).At(20, 10), 0xFFFFFFu);
+  });
+}
+
+// Removing an icon clears the preview that a paint of the dialog fills from what is stored.
+TEST_F(DrawnControlsTest, APictureThatAHandlerClearsStaysClearUntilTheDialogIsPainted) {
+  dialog.picture.onPaint = [&] { dialog.picture.Paint(OneColour(kRed), {0, 0, 40, 20}); };
+
+  LookAt(dialog, [&] {
+    const HWND picture = WindowOf(dialog.picture);
+    EXPECT_EQ(WindowPixels(picture).At(20, 10), 0xFF0000u);
+
+    RunEvent([&] { dialog.picture.Clear(kWhite); });
+    EXPECT_EQ(WindowPixels(picture).At(20, 10), 0xFFFFFFu);
+    RunEvent([&] { dialog.heading.text = u"another"; });
+    EXPECT_EQ(WindowPixels(picture).At(20, 10), 0xFFFFFFu);
+
+    InvalidateRect(picture, nullptr, FALSE);
+    EXPECT_EQ(WindowPixels(picture).At(20, 10), 0xFF0000u);
   });
 }
 

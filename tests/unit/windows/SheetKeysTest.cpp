@@ -130,6 +130,20 @@ TEST_F(SheetKeysTest, EnterPressesTheButtonOfAPageThatTabHasReached) {
   LookAtSheet(steps, 1);
 }
 
+TEST_F(SheetKeysTest, EnterPressesTheImageButtonOfAPageThatHasTheFocus) {
+  int clicks = 0;
+  LookAtSheet({[&](HWND) {
+                 auto& button = Find<CStretchBitmapButton>(Page(0), u"Add file");
+                 button.onClick = [&] { ++clicks; };
+                 SetFocus(WindowOf(button));
+                 Strike(VK_RETURN);
+               },
+               [&](HWND) {
+                 EXPECT_EQ(clicks, 1);
+                 EXPECT_FALSE(Sheet().HasEnded());
+               }});
+}
+
 TEST_F(SheetKeysTest, EscCancelsFromAFieldOfSeveralLines) {
   UseSheet({[&](HWND) {
     RunEvent([&] { Sheet().SetActivePage(3); });
