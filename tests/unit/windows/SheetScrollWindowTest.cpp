@@ -2,28 +2,14 @@
 #include <algorithm>
 
 #include "windows/SheetWindowTest.h"
+#include "windows/SmallWorkArea.h"
 #include "windows/UserInput.h"
 
 namespace qutav::test {
 namespace {
 
-/// A lower screen, for as long as this lives; by default without room for the whole sheet.
-class SmallWorkArea {
- public:
-  explicit SmallWorkArea(int bottom = kBottom) {
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &before_, 0);
-    RECT area{0, 0, 1024, bottom};
-    SystemParametersInfoW(SPI_SETWORKAREA, 0, &area, 0);
-  }
-  ~SmallWorkArea() { SystemParametersInfoW(SPI_SETWORKAREA, 0, &before_, 0); }
-  SmallWorkArea(const SmallWorkArea&) = delete;
-  SmallWorkArea& operator=(const SmallWorkArea&) = delete;
-
-  static constexpr int kBottom = 400;
-
- private:
-  RECT before_{};
-};
+// Without room for the whole sheet.
+constexpr int kBottom = 400;
 
 class SheetScrollWindowTest : public SheetWindowTest {
  protected:
@@ -59,7 +45,7 @@ class SheetScrollWindowTest : public SheetWindowTest {
     return {place.left - tabs.left, place.top - tabs.top};
   }
   void LookAtSmall(const std::function<void()>& look) {
-    const SmallWorkArea area;
+    const SmallWorkArea area(kBottom);
     LookAtSheet([&] {
       top_ = 0;
       top_ = Shift();
@@ -95,7 +81,7 @@ TEST_F(SheetScrollWindowTest, TheSheetFitsAScreenOf1024By600) {
 
 TEST_F(SheetScrollWindowTest, ASheetTallerThanTheScreenIsCutDownToItAndGetsAScrollBar) {
   const SIZE natural = NaturalSize();
-  ASSERT_GT(natural.cy, SmallWorkArea::kBottom);
+  ASSERT_GT(natural.cy, kBottom);
 
   LookAtSmall([&] {
     const RECT place = PlaceOf(Window());
@@ -164,7 +150,7 @@ TEST_F(SheetScrollWindowTest, TheWheelOverAPageScrollsTheSheet) {
 
 // The first page shows where pages stand below the tabs.
 TEST_F(SheetScrollWindowTest, APageThatIsTurnedToWhileTheSheetIsScrolledStandsBelowItsTabs) {
-  const SmallWorkArea area;
+  const SmallWorkArea area(kBottom);
   POINT before{};
   LookAtSheet({[&](HWND) {
                  before = FromTabsTo(Page(0));
@@ -185,7 +171,7 @@ TEST_F(SheetScrollWindowTest, APageThatIsTurnedToWhileTheSheetIsScrolledStandsBe
 }
 
 TEST_F(SheetScrollWindowTest, APageThatIsTurnedToFarDownIsInViewAfterScrollingBack) {
-  const SmallWorkArea area;
+  const SmallWorkArea area(kBottom);
   POINT before{};
   LookAtSheet({[&](HWND) {
                  before = FromTabsTo(Page(0));
