@@ -1,10 +1,13 @@
 // A dialog's window: what it does to its owner, and how it ends.
 #include <stdexcept>
 
+#include "framework/windows/ControlHost.h"
+#include "framework/windows/OpenWindows.h"
 #include "settings_ui/SignaturePasswordDlg.h"
 #include "windows/SampleDialog.h"
 #include "windows/ShownDialogs.h"
 #include "windows/UserInput.h"
+#include "windows/WindowFit.h"
 
 namespace qutav::test {
 namespace {
@@ -29,6 +32,11 @@ class DialogWindowTest : public ShownDialogTest {
   void ExpectOwnerFree() const {
     EXPECT_TRUE(IsWindowEnabled(ground.Owner()));
     EXPECT_EQ(GetActiveWindow(), ground.Owner());
+  }
+  static LONG FontHeightOf(HWND window) {
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
+    return font.lfHeight;
   }
 
   SampleDialog dialog;
@@ -233,6 +241,33 @@ TEST_F(DialogWindowTest, TheFirstControlThatCanBeUsedHasTheFocusAndItsTextIsSele
                  reinterpret_cast<LPARAM>(&to));
     EXPECT_EQ(from, 0u);
     EXPECT_EQ(to, 12u);
+  });
+}
+
+// As the system asks for it when a window comes to a screen of twice the resolution. The frame that
+// is drawn remains that of the screen where it is, so it is the whole window that is measured.
+TEST_F(DialogWindowTest, ItIsLaidOutAnewForAnotherResolutionAtThePlaceThatIsSuggested) {
+  LookAt(dialog, [&] {
+    const HWND window = WindowOf(dialog);
+    const ControlHost& shown = *OpenWindows::HostOf(dialog);
+    const unsigned dpi = 2 * GetDpiForWindow(window);
+    const LONG before = FontHeightOf(WindowOf(dialog.edit));
+    const RECT suggested{30, 20, 500, 400};
+
+    SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+
+    EXPECT_EQ(shown.Dpi(), dpi);
+    EXPECT_NEAR(FontHeightOf(WindowOf(dialog.edit)), 2 * before, 1);
+    const Size natural = shown.NaturalSize();
+    const RECT place = PlaceOf(window);
+    RECT wanted{0, 0, natural.width, natural.height};
+    AdjustWindowRectExForDpi(&wanted, StyleOf(window), FALSE,
+                             static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE)), dpi);
+    EXPECT_EQ(place.right - place.left, wanted.right - wanted.left);
+    EXPECT_EQ(place.bottom - place.top, wanted.bottom - wanted.top);
+    EXPECT_EQ(place.left, 30);
+    EXPECT_EQ(place.top, 20);
+    EXPECT_THAT(FaultsOfDialog(window, dpi), ::testing::IsEmpty());
   });
 }
 
