@@ -1,5 +1,6 @@
 // The settings sheet in the system's own property sheet, in every language: the area that the
-// system gives to a page holds it, and the sheet's tabs and buttons hold their texts.
+// system gives to a page holds it, and the sheet's tabs and buttons hold their texts. A sheet that
+// is too tall for the screen is cut down to it.
 #include <cstdlib>
 
 #include "AllDialogs.h"
@@ -7,6 +8,7 @@
 #include "framework/windows/NativeFrontEnd.h"
 #include "win/InterfaceLanguage.h"
 #include "windows/ModalUser.h"
+#include "windows/SmallWorkArea.h"
 #include "windows/WindowFit.h"
 
 // behind the system's own header
@@ -90,6 +92,87 @@ INSTANTIATE_TEST_SUITE_P(InEveryLanguage, NativeWindowFitTest,
                                            u"pt_BR", u"ru_RU", u"su_DO", u"sv_SE", u"tr_TR",
                                            u"zh_CN", u"zh_TW"),
                          [](const auto& code) { return ToUtf8(code.param); });
+
+// --- Height --------------------------------------------------------------------------------------
+
+class NativeWindowHeightTest : public SheetTest {
+ protected:
+  NativeWindowHeightTest() { TheServices().frontEnd = &native; }
+
+  static SIZE SizeOf(HWND sheet) {
+    RECT place{};
+    GetWindowRect(sheet, &place);
+    return {place.right - place.left, place.bottom - place.top};
+  }
+  static bool HasBar(HWND sheet) { return (GetWindowLongW(sheet, GWL_STYLE) & WS_VSCROLL) != 0; }
+  static SCROLLINFO BarOf(HWND sheet) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    GetScrollInfo(sheet, SB_VERT, &info);
+    return info;
+  }
+  static void Look(const std::function<void(HWND)>& look) {
+    const ModalUser user(AnyDialog(), [&](HWND sheet) {
+      look(sheet);
+      Press(sheet, IDCANCEL);
+    });
+    EXPECT_TRUE(OpenSettingsSheet(nullptr, 0));
+  }
+  static SIZE NaturalSize() {
+    SIZE size{};
+    Look([&](HWND sheet) { size = SizeOf(sheet); });
+    return size;
+  }
+  // With a bar, in a work area that ends there.
+  static void ExpectCut(HWND sheet, const SIZE& natural, int bottom) {
+    EXPECT_TRUE(HasBar(sheet));
+    const int bar = GetSystemMetricsForDpi(SM_CXVSCROLL, GetDpiForWindow(sheet));
+    EXPECT_EQ(SizeOf(sheet).cx, natural.cx + bar);
+    EXPECT_EQ(SizeOf(sheet).cy, bottom - 10);
+    EXPECT_EQ(BarOf(sheet).nPage, static_cast<UINT>(bottom - 10));
+    EXPECT_EQ(BarOf(sheet).nMin, 0);
+    EXPECT_EQ(BarOf(sheet).nMax, natural.cy);
+    EXPECT_EQ(BarOf(sheet).nPos, 0);
+  }
+  static void ExpectWhole(HWND sheet, const SIZE& natural) {
+    EXPECT_FALSE(HasBar(sheet));
+    EXPECT_EQ(SizeOf(sheet).cx, natural.cx);
+    EXPECT_EQ(SizeOf(sheet).cy, natural.cy);
+  }
+
+  NativeFrontEnd native;
+};
+
+TEST_F(NativeWindowHeightTest, ASheetAsTallAsTheScreenHasNoBar) {
+  const SIZE natural = NaturalSize();
+  const SmallWorkArea area(natural.cy);
+
+  Look([&](HWND sheet) { ExpectWhole(sheet, natural); });
+}
+
+TEST_F(NativeWindowHeightTest, ASheetTallerThanTheScreenByAPixelIsCutDownAndGetsABar) {
+  const SIZE natural = NaturalSize();
+  const int bottom = natural.cy - 1;
+  const SmallWorkArea area(bottom);
+
+  Look([&](HWND sheet) { ExpectCut(sheet, natural, bottom); });
+}
+
+// At the usual resolution it fits.
+TEST_F(NativeWindowHeightTest, OnAScreenOf1024By600TheSheetIsWholeOrCutTo590) {
+  const SIZE natural = NaturalSize();
+  const SmallWorkArea area(600);
+
+  Look([&](HWND sheet) {
+    EXPECT_EQ(HasBar(sheet), GetDpiForWindow(sheet) > 96);
+    if (HasBar(sheet)) {
+      ExpectCut(sheet, natural, 600);
+    } else {
+      ExpectWhole(sheet, natural);
+    }
+  });
+}
 
 }  // namespace
 }  // namespace qutav::test
