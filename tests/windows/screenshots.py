@@ -17,6 +17,8 @@ BUILD = pathlib.Path(os.environ["QUTAV_BUILD"])
 SAMPLE = pathlib.Path(__file__).resolve().parents[2] / "samples" / "Game"
 
 ANDROID_PAGES = ["General", "Deployment", "Icons", "Permissions", "Languages"]
+IOS_PAGES = ["General", "Deployment", "Icons", "Languages"]
+CERTIFICATE = {"Certificate:": "C:\\Keys\\release.p12"}
 DIALOGS = {
     "CProgressDlg": "progress",
     "CSignaturePasswordDlg": "password",
@@ -59,29 +61,27 @@ class Photographer:
         self.run(answers, BUILD / "qutav.exe", "evaluate", windows_path(self.game / "Game.qud.json"),
                  f"OpenSettingDialog({arguments})", "--language", self.code, "--quiet")
 
+    def pages(self, form, titles, deployment):
+        """Steps that picture each page; on the one for deployment these fields are filled before."""
+        fields = {"Deployment": {"set": deployment}}
+        return [{"page": title, **fields.get(title, {}), **self.picture(f"{form}-{title.lower()}")}
+                for title in titles]
+
     def take_android_form(self):
-        steps = [{"page": page, **self.filled(page), **self.picture(f"android-{page.lower()}")}
-                 for page in ANDROID_PAGES]
+        steps = self.pages("android", ANDROID_PAGES, {**CERTIFICATE, "Password:": "practice-only"})
         create = {"page": "Deployment", "press": "Create..."}
         self.open_sheet({"to": "sheet", "steps": [*steps, create, {"press": "Cancel"}]},
                         {"to": "dialog", "class": "CSelfSignDlg",
                          "set": {"Publisher name:": "Sample Studio"},
                          "steps": [self.picture("certificate"), {"press": "Cancel"}]})
 
-    @staticmethod
-    def filled(page):
-        if page == "Deployment":
-            return {"set": {"Certificate:": "C:\\Keys\\release.p12", "Password:": "practice-only"}}
-        return {}
-
     def take_ios_form(self):
         document = self.game / "Game.qud.json"
         content = json.loads(document.read_text(encoding="utf-8"))
         content["playerTarget"] = "iPhone OS"
         document.write_text(json.dumps(content), encoding="utf-8")
-        self.open_sheet({"to": "sheet", "steps": [
-            {"page": "Deployment", "set": {"Certificate:": "C:\\Keys\\release.p12"},
-             **self.picture("ios-deployment")}, {"press": "Cancel"}]})
+        steps = self.pages("ios", IOS_PAGES, CERTIFICATE)
+        self.open_sheet({"to": "sheet", "steps": [*steps, {"press": "Cancel"}]})
 
     def take_dialogs(self):
         answers = [{"to": "dialog", "class": name, **self.picture(file)}
