@@ -12,6 +12,7 @@ SAMPLE = TESTS.parents[1] / "samples" / "Game"
 PASSWORD = "practice-only"
 PRODUCT = pathlib.Path(os.environ["WINEPREFIX"],
                        "drive_c/Program Files/Common Files/Zenvoka/Zenvoka Kestrow 2020")
+JAVA = PRODUCT / "jre" / "bin" / "java.exe"
 
 
 def run(*command, **options):
@@ -33,13 +34,13 @@ def install(program, target, add_cleanup):
     """Puts one of the tests' programs in another's place for a while."""
     target.parent.mkdir(parents=True, exist_ok=True)
     shutil.copy(BUILD / "tests" / "windows" / program, target)
-    add_cleanup(target.unlink)
+    add_cleanup(target.unlink, missing_ok=True)
 
 
 def install_java(add_cleanup):
     """This one hands over to the machine's Java."""
     add_cleanup(shutil.rmtree, PRODUCT.parent)
-    install("java.exe", PRODUCT / "jre" / "bin" / "java.exe", add_cleanup)
+    install("java.exe", JAVA, add_cleanup)
 
 
 def install_adb(add_cleanup):

@@ -5,8 +5,15 @@ import os
 import shutil
 import unittest
 
-from product import (BUILD, PASSWORD, SAMPLE, TESTS, install_adb, install_java, make_certificate, run,
-                     temporary_folder, windows_path)
+from product import (BUILD, JAVA, PASSWORD, SAMPLE, TESTS, install_adb, install_java,
+                     make_certificate, run, temporary_folder, windows_path)
+
+
+def contents(folder):
+    """The bytes of every file below a folder, by its relative path; but the descriptor, which every
+    publish saves."""
+    return {path.relative_to(folder).as_posix(): path.read_bytes()
+            for path in folder.rglob("*") if path.is_file() and path.name != "Game-app.xml"}
 
 
 class Publish(unittest.TestCase):
@@ -52,6 +59,19 @@ class Publish(unittest.TestCase):
 
         self.assertEqual(result.returncode, 1, result.stdout + result.stderr)
         self.assertEqual(len(self.messages()), 1, self.messages())
+        self.assertFalse((self.game / "Game.apk").exists())
+
+    def test_java_that_is_not_there_ends_the_host_as_it_must(self):
+        JAVA.unlink()
+        before = contents(self.game)
+
+        result = self.publish()
+
+        self.assertEqual(result.returncode, 1, result.stdout + result.stderr)
+        self.assertIn("The library ended its host with code 2.", result.stderr)
+        self.assertEqual(len(self.messages()), 1, self.messages())
+        self.assertRegex(self.messages()[0], r"^CreateWinProcess failed with error 2: .")
+        self.assertLessEqual(before.items(), contents(self.game).items())
         self.assertFalse((self.game / "Game.apk").exists())
 
 
