@@ -120,6 +120,25 @@ TEST(NativeMessagesTest, TheWindowWithTheFocusIsDisabledWhileItsBoxIsShown) {
   EXPECT_EQ(GetFocus(), host.Window());
 }
 
+TEST(NativeMessagesTest, ABoxWithoutAnOwnerTakesInputFromAllWindowsOfItsThread) {
+  const OwnerWindow host;
+  const OwnerWindow palette;
+  bool hostEnabled = true;
+  bool paletteEnabled = true;
+  const ModalUser user(AnyDialog(), [&](HWND box) {
+    hostEnabled = IsWindowEnabled(host.Window()) != 0;
+    paletteEnabled = IsWindowEnabled(palette.Window()) != 0;
+    Press(box, IDOK);
+  });
+
+  ShowBox(MessageIcon::kWarning, MessageButtons::kOk, nullptr);
+
+  EXPECT_FALSE(hostEnabled);
+  EXPECT_FALSE(paletteEnabled);
+  EXPECT_TRUE(IsWindowEnabled(host.Window()));
+  EXPECT_TRUE(IsWindowEnabled(palette.Window()));
+}
+
 TEST(NativeMessagesTest, TheMainWindowIsTheVisibleOneWithoutAnOwner) {
   const OwnerWindow host;
 
