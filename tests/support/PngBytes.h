@@ -1,8 +1,6 @@
 // PNG files made byte by byte, so that a test can have any kind of them and damaged ones.
 #pragma once
 
-#include <zlib.h>
-
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -28,21 +26,48 @@ inline std::string BigEndian(std::uint32_t number) {
   return bytes;
 }
 
-inline std::string PngChunk(const std::string& type, const std::string& content) {
-  const std::string checked = type + content;
-  const auto sum =
-      crc32(0, reinterpret_cast<const Bytef*>(checked.data()), static_cast<uInt>(checked.size()));
-  return BigEndian(static_cast<std::uint32_t>(content.size())) + checked +
-         BigEndian(static_cast<std::uint32_t>(sum));
+/// The checksum at the end of a chunk.
+inline std::uint32_t PngChecksum(std::string_view bytes) {
+  std::uint32_t rest = 0xFFFFFFFF;
+  for (const char byte : bytes) {
+    rest ^= static_cast<unsigned char>(byte);
+    for (int bit = 0; bit < 8; ++bit) rest = (rest >> 1) ^ ((rest & 1) != 0 ? 0xEDB88320 : 0);
+  }
+  return ~rest;
 }
 
-inline std::string Deflated(const std::string& bytes) {
-  uLongf size = compressBound(static_cast<uLong>(bytes.size()));
-  std::string packed(size, '\0');
-  compress(reinterpret_cast<Bytef*>(packed.data()), &size,
-           reinterpret_cast<const Bytef*>(bytes.data()), static_cast<uLong>(bytes.size()));
-  packed.resize(size);
-  return packed;
+inline std::string PngChunk(const std::string& type, const std::string& content) {
+  const std::string checked = type + content;
+  return BigEndian(static_cast<std::uint32_t>(content.size())) + checked +
+         BigEndian(PngChecksum(checked));
+}
+
+/// The checksum at the end of a deflated stream.
+inline std::uint32_t StreamChecksum(std::string_view bytes) {
+  constexpr std::uint32_t kPrime = 65521;
+  std::uint32_t sum = 1;
+  std::uint32_t sumOfSums = 0;
+  for (const char byte : bytes) {
+    sum = (sum + static_cast<unsigned char>(byte)) % kPrime;
+    sumOfSums = (sumOfSums + sum) % kPrime;
+  }
+  return (sumOfSums << 16) | sum;
+}
+
+/// A deflated stream whose blocks hold their bytes as they are: nothing has to pack them.
+inline std::string Stored(std::string_view bytes) {
+  constexpr std::size_t kLongestBlock = 0xFFFF;
+  std::string stream = "\x78\x01";
+  for (std::size_t start = 0; start < bytes.size(); start += kLongestBlock) {
+    const std::string_view block = bytes.substr(start, kLongestBlock);
+    const auto low = static_cast<char>(block.size());
+    const auto high = static_cast<char>(block.size() >> 8);
+    const bool isLast = start + block.size() == bytes.size();
+    stream +=
+        {static_cast<char>(isLast), low, high, static_cast<char>(~low), static_cast<char>(~high)};
+    stream += block;
+  }
+  return stream + BigEndian(StreamChecksum(bytes));
 }
 
 inline std::string PngHeaderChunk(const PngHeader& header) {
@@ -55,8 +80,8 @@ inline std::string PngHeaderChunk(const PngHeader& header) {
 inline std::string PngBytes(const PngHeader& header, const std::string& scanLines,
                             const std::string& palette = "") {
   return std::string(kPngSignature) + PngHeaderChunk(header) +
-         (palette.empty() ? "" : PngChunk("PLTE", palette)) +
-         PngChunk("IDAT", Deflated(scanLines)) + PngChunk("IEND", "");
+         (palette.empty() ? "" : PngChunk("PLTE", palette)) + PngChunk("IDAT", Stored(scanLines)) +
+         PngChunk("IEND", "");
 }
 
 /// A square of one opaque colour.
