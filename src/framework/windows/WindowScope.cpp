@@ -21,6 +21,13 @@ HANDLE OurContext() {
   return CreateActCtxW(&request);
 }
 
+// Systems that lack the second kind of sharpness may have the first.
+DPI_AWARENESS_CONTEXT SharpenThread() {
+  const auto before = SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+  if (before != nullptr) return before;
+  return SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE);
+}
+
 }  // namespace
 
 HINSTANCE OurModule() {
@@ -32,7 +39,7 @@ HINSTANCE OurModule() {
 }
 
 WindowScope::WindowScope()
-    : formerAwareness_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2)),
+    : formerAwareness_(SharpenThread()),
       isOutermost_(hostAwareness == nullptr),
       context_(OurContext()) {
   if (isOutermost_) hostAwareness = formerAwareness_;
