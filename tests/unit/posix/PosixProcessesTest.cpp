@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "EnvironmentVariable.h"
+#include "Eventually.h"
 #include "ServicesTest.h"
 #include "TemporaryFolder.h"
 #include "platform/Text.h"
@@ -47,16 +48,6 @@ bool IsRunning(pid_t pid) {
 }
 
 bool IsKnown(pid_t pid) { return fs::exists("/proc/" + std::to_string(pid)); }
-
-// Looks again and again until the condition holds; false when it does not within a long time.
-bool Eventually(const std::function<bool()>& condition) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > end) return false;
-    std::this_thread::yield();
-  }
-  return true;
-}
 
 bool Ends(pid_t pid) {
   return Eventually([pid] { return !IsRunning(pid); });

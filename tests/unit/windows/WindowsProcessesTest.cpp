@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "EnvironmentVariable.h"
+#include "Eventually.h"
 #include "ServicesTest.h"
 #include "TemporaryFolder.h"
 #include "platform/Text.h"
@@ -43,16 +44,6 @@ bool IsRunning(DWORD pid) {
 void Kill(DWORD pid) {
   const Handle process(OpenProcess(PROCESS_TERMINATE, FALSE, pid));
   TerminateProcess(process.Value(), 1);
-}
-
-// Looks again and again until the condition holds; false when it does not within a long time.
-bool Eventually(const std::function<bool()>& condition) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > end) return false;
-    std::this_thread::yield();
-  }
-  return true;
 }
 
 bool Ends(DWORD pid) {
