@@ -3,6 +3,7 @@
 //   error TEXT        prints the text on standard error
 //   flood COUNT       prints that many bytes
 //   overflow FILE     prints without end and makes the file after the first megabyte
+//   keep FILE TEXT    writes the text into the file
 //   zeros             prints bytes with a zero among them
 //   exit CODE         ends with that code
 //   arguments ...     prints what follows, one argument a line
@@ -55,6 +56,8 @@ int Run(std::string_view order, const std::vector<std::string>& values) {
     Flood(std::stoul(values.at(0)));
   } else if (order == "overflow") {
     Overflow(values.at(0));
+  } else if (order == "keep") {
+    std::ofstream(values.at(0), std::ios::binary) << values.at(1);
   } else if (order == "zeros") {
     std::cout.write("seen\0hidden", 11);
   } else if (order == "exit") {
