@@ -154,6 +154,11 @@ TEST_F(SheetScrollWindowTest, APageThatIsTurnedToWhileTheSheetIsScrolledStandsBe
   POINT before{};
   LookAtSheet({[&](HWND) {
                  before = FromTabsTo(Page(0));
+                 RECT below{};
+                 GetClientRect(Tabs(), &below);
+                 TabCtrl_AdjustRect(Tabs(), FALSE, &below);
+                 EXPECT_EQ(before.x, below.left);
+                 EXPECT_EQ(before.y, below.top);
                  Scroll(SB_LINEDOWN);
                  RunEvent([&] { Sheet().SetActivePage(1); });
                },
