@@ -125,8 +125,10 @@ TEST_F(HostedLibraryTest, TheSheetStandsOverTheHostsWindow) {
   EXPECT_TRUE(IsWindowEnabled(window.Window()));
 }
 
-// Over no window of the host's: some systems scale a dialog as its owner is scaled.
 TEST_F(HostedLibraryTest, ItsWindowsAreSharpInAHostThatIsScaled) {
+  const OwnerWindow window;
+  ASSERT_EQ(AwarenessOf(window.Window()), DPI_AWARENESS_UNAWARE);
+
   EXPECT_EQ(SeenMessage().awareness, DPI_AWARENESS_PER_MONITOR_AWARE);
   EXPECT_EQ(SeenSheet().awareness, DPI_AWARENESS_PER_MONITOR_AWARE);
 }

@@ -21,7 +21,7 @@ bool IsIcon(HWND label) { return (GetWindowLongW(label, GWL_STYLE) & SS_TYPEMASK
 
 HICON IconOf(HWND label) { return reinterpret_cast<HICON>(SendMessageW(label, STM_GETICON, 0, 0)); }
 
-SeenBox Look(HWND box) {
+SeenBox LookAtBox(HWND box) {
   SeenBox seen;
   for (HWND child = GetWindow(box, GW_CHILD); child != nullptr;
        child = GetWindow(child, GW_HWNDNEXT)) {
@@ -46,7 +46,7 @@ int ShowBox(MessageIcon icon, MessageButtons buttons, WindowHandle owner = nullp
 SeenBox Seen(MessageIcon icon, MessageButtons buttons) {
   SeenBox seen;
   const ModalUser user(WindowTitled(u"Kestrow \u017C"), [&](HWND box) {
-    seen = Look(box);
+    seen = LookAtBox(box);
     Press(box, IDOK);
   });
   ShowBox(icon, buttons);
